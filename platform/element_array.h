@@ -1,0 +1,116 @@
+// Elements under one name with an index; further ones can be loaded and unloaded at run time.
+#pragma once
+
+#include "platform/window.h"
+
+#include <utility>
+
+namespace cserko {
+
+/// An element array. Handlers set on the array serve all its elements and are given the index.
+template<class T> class ElementArray {
+ public:
+  /// An array with the design element 0 alone.
+  template<class... Design>
+  ElementArray(Parent parent, TextView name, Rect place, const Design&... design)
+      : parent_(parent), name_(name), make_([design...](Parent in, TextView element_name, Rect at) {
+          return std::make_unique<T>(in, element_name, at, design...);
+        }) {
+    add(0, place);
+  }
+  ElementArray(const ElementArray&) = delete;
+  ElementArray& operator=(const ElementArray&) = delete;
+
+  std::function<void(int)> Click;
+  std::function<void(int, const MouseEvent&)> MouseDown;
+  std::function<void(int, const MouseEvent&)> MouseMove;
+  std::function<void(int, const MouseEvent&)> MouseUp;
+  std::function<void(int)> GotFocus;
+
+  /// The element of that index. Throws std::out_of_range if it is not loaded.
+  T& operator[](int index) { return *elements_.at(index); }
+  const T& operator[](int index) const { return *elements_.at(index); }
+
+  bool loaded(int index) const { return elements_.count(index) != 0; }
+  int count() const { return static_cast<int>(elements_.size()); }
+
+  /// Creates an element like element 0, hidden. Throws InvalidValue if the index is taken.
+  T& load(int index) {
+    if (loaded(index)) throw InvalidValue("element array: the index is loaded already");
+    const T& design = *elements_.at(0);
+    T& element = add(index, {design.Left, design.Top, design.Width, design.Height});
+    element.Caption = design.Caption;
+    element.Font = design.Font;
+    element.ForeColor = design.ForeColor;
+    element.BackColor = design.BackColor;
+    element.Opaque = design.Opaque;
+    element.Border = design.Border;
+    element.Enabled = design.Enabled;
+    element.TabStop = design.TabStop;
+    element.Visible = false;
+    return element;
+  }
+
+  /// Creates an element at a place of its own, visible, as part of the design.
+  T& design(int index, Rect place, TextView caption = {}) {
+    T& element = load(index);
+    element.Left = place.left;
+    element.Top = place.top;
+    element.Width = place.width;
+    element.Height = place.height;
+    element.Caption = caption;
+    element.Visible = true;
+    return element;
+  }
+
+  /// Takes an element away. Element 0 belongs to the design and stays: throws InvalidValue.
+  void unload(int index) {
+    if (index == 0) throw InvalidValue("element array: element 0 cannot be unloaded");
+    if (const auto found = elements_.find(index); found != elements_.end()) {
+      parent_.window().retire(std::move(found->second));
+      elements_.erase(found);
+    }
+  }
+
+  /// Takes all elements from that index up away.
+  void unload_from(int index) {
+    while (!elements_.empty() && elements_.rbegin()->first >= index) unload(elements_.rbegin()->first);
+  }
+
+  /// Calls the function with each element in order of index.
+  template<class F> void each(F&& function) {
+    for (auto& [index, element] : elements_) function(*element);
+  }
+  template<class F> void each(F&& function) const {
+    for (const auto& [index, element] : elements_) function(std::as_const(*element));
+  }
+
+ private:
+  T& add(int index, Rect place) {
+    auto element = make_(parent_, name_, place);
+    element->Index = index;
+    element->Click = [this, index] {
+      if (Click) Click(index);
+    };
+    element->MouseDown = [this, index](const MouseEvent& event) {
+      if (MouseDown) MouseDown(index, event);
+    };
+    element->MouseMove = [this, index](const MouseEvent& event) {
+      if (MouseMove) MouseMove(index, event);
+    };
+    element->MouseUp = [this, index](const MouseEvent& event) {
+      if (MouseUp) MouseUp(index, event);
+    };
+    element->GotFocus = [this, index] {
+      if (GotFocus) GotFocus(index);
+    };
+    return *(elements_[index] = std::move(element));
+  }
+
+  Parent parent_;
+  Text name_;
+  std::function<std::unique_ptr<T>(Parent, TextView, Rect)> make_;
+  std::map<int, std::unique_ptr<T>> elements_;
+};
+
+} // namespace cserko

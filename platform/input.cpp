@@ -1,0 +1,330 @@
+#include "platform/input.h"
+
+#include "platform/platform.h"
+
+#include <algorithm>
+
+namespace cserko::input {
+
+namespace {
+
+// Every event of a window goes through its host, and the window keeps what is taken out of it until the event is over.
+void run(Window& window, const std::function<void()>& handler) {
+  const auto counted = [&window, &handler] {
+    window.enter_event();
+    struct Leave {
+      Window& window;
+      ~Leave() { window.leave_event(); }
+    } leave{window};
+    handler();
+  };
+  if (Host* host = window.platform().host; host != nullptr) {
+    host->run_event(window, counted);
+  } else {
+    counted();
+  }
+}
+
+bool live(const Element& element) { return element.shown() && element.usable() && element.window().Enabled; }
+
+bool inside(const Element& element, const MouseEvent& event) {
+  return event.x >= 0 && event.y >= 0 && event.x < element.Width && event.y < element.Height;
+}
+
+// The topmost shown element at a place of the window, other than the one given; null if there is none.
+Element* element_at(const Window& window, Point place, const Element* except) {
+  const auto& elements = window.elements();
+  const auto hit = std::find_if(elements.rbegin(), elements.rend(), [&](const Element* element) {
+    const Point corner = element->position_in_window();
+    return element != except && element->Width > 0 && element->shown() &&
+           inside(*element, {MouseButton::None, 0, place.x - corner.x, place.y - corner.y});
+  });
+  return hit == elements.rend() ? nullptr : *hit;
+}
+
+void drop(Element& source, const MouseEvent& event) {
+  const Point corner = source.position_in_window();
+  const Point place{corner.x + event.x, corner.y + event.y};
+  Element* target = element_at(source.window(), place, &source);
+  if (target == nullptr || !target->DragDrop) return;
+  const Point origin = target->position_in_window();
+  target->DragDrop(source, place.x - origin.x, place.y - origin.y);
+}
+
+void press(Element& element) {
+  switch (element.kind()) {
+  case ElementKind::CheckBox: {
+    auto& box = static_cast<CheckBox&>(element);
+    box.set_value(box.ticked() ? 0 : 1);
+    break;
+  }
+  case ElementKind::OptionButton:
+    static_cast<OptionButton&>(element).set_value(true);
+    break;
+  default:
+    if (element.Click) element.Click();
+  }
+}
+
+template<class E, class Matches> E* first(const Window& window, ElementKind kind, Matches matches) {
+  for (Element* element : window.elements()) {
+    if (element->kind() == kind && live(*element) && matches(static_cast<E&>(*element)))
+      return static_cast<E*>(element);
+  }
+  return nullptr;
+}
+
+bool choose_by_shortcut(Window& window, const KeyEvent& event) {
+  auto* item = first<MenuItem>(window, ElementKind::MenuItem,
+                               [&](const MenuItem& m) { return m.ShortcutKey != 0 && m.ShortcutKey == event.code; });
+  if (item == nullptr || event.shift != shift::none) return false;
+  press(*item);
+  return true;
+}
+
+// Alt and the marked character of a button, check box or option chooses it; of a label moves on to the next control.
+bool choose_by_mnemonic(Window& window, const KeyEvent& event) {
+  if (event.shift != shift::alt || event.character == 0) return false;
+  const char16_t wanted = lower_case(event.character);
+  for (Element* element : window.elements()) {
+    const ElementKind kind = element->kind();
+    const bool control =
+        kind == ElementKind::Button || kind == ElementKind::CheckBox || kind == ElementKind::OptionButton;
+    if (!control || !live(*element) || mnemonic(element->Caption) != wanted) continue;
+    window.set_focus(element);
+    press(*element);
+    return true;
+  }
+  return false;
+}
+
+bool press_default(Window& window, const KeyEvent& event, const Element* focused) {
+  const bool on_button = focused != nullptr && focused->kind() == ElementKind::Button;
+  Button* button = nullptr;
+  if (event.code == key::enter && !on_button) {
+    button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Default; });
+  } else if (event.code == key::escape) {
+    button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Cancel; });
+  }
+  if (button == nullptr) return false;
+  press(*button);
+  return true;
+}
+
+// Arrow keys go round among the options of one group.
+bool move_among_options(OptionButton& option, int code) {
+  const int direction = code == key::right || code == key::down ? 1 : code == key::left || code == key::up ? -1 : 0;
+  if (direction == 0) return false;
+  std::vector<Element*> group;
+  for (Element* element : option.window().elements()) {
+    if (element->kind() == ElementKind::OptionButton && element->container() == option.container() && live(*element))
+      group.push_back(element);
+  }
+  const auto count = static_cast<int>(group.size());
+  const auto here = static_cast<int>(std::find(group.begin(), group.end(), &option) - group.begin());
+  Element* next = group[static_cast<std::size_t>((here + direction + count) % count)];
+  option.window().set_focus(next);
+  press(*next);
+  return true;
+}
+
+// What the focused control does with a key by itself. Returns whether it has used it.
+bool control_key(Element& element, const KeyEvent& event) {
+  switch (element.kind()) {
+  case ElementKind::Button:
+    if (event.code != key::enter && event.code != key::space) return false;
+    press(element);
+    return true;
+  case ElementKind::OptionButton:
+    if (move_among_options(static_cast<OptionButton&>(element), event.code)) return true;
+    [[fallthrough]];
+  case ElementKind::CheckBox:
+    if (event.code != key::space) return false;
+    press(element);
+    return true;
+  case ElementKind::TextBox: {
+    UpDown* stepper = static_cast<TextBox&>(element).Stepper;
+    if (stepper == nullptr || (event.code != key::up && event.code != key::down)) return false;
+    stepper->set_value(stepper->clamped(stepper->value() + (event.code == key::up ? 1 : -1) * stepper->Increment));
+    return true;
+  }
+  default:
+    return false;
+  }
+}
+
+// The number that a text is, none if it is not a whole number of at most six digits.
+bool whole_number(TextView text, int& number) {
+  if (text.empty() || text.size() > 6) return false;
+  number = 0;
+  for (const char16_t digit : text) {
+    if (digit < u'0' || digit > u'9') return false;
+    number = number * 10 + (digit - u'0');
+  }
+  return true;
+}
+
+bool key_down_in_event(Window& window, KeyEvent& event) {
+  if (choose_by_shortcut(window, event)) return false;
+  if (window.KeyPreview) window.KeyDown(event);
+  if (event.code == 0 || !window.visible()) return false;
+  Element* focused = window.focus();
+  if (focused != nullptr && live(*focused) && focused->KeyDown) focused->KeyDown(event);
+  if (event.code == 0 || !window.visible()) return false;
+  if (!window.KeyPreview) window.KeyDown(event);
+  if (event.code == 0 || !window.visible()) return false;
+  if (choose_by_mnemonic(window, event)) return false;
+  focused = window.focus();
+  if (focused != nullptr && live(*focused) && control_key(*focused, event)) return false;
+  return !press_default(window, event, focused);
+}
+
+} // namespace
+
+void click(Element& element) {
+  run(element.window(), [&element] {
+    if (live(element)) press(element);
+  });
+}
+
+void mouse_down(Element& element, const MouseEvent& event) {
+  run(element.window(), [&] {
+    if (!live(element)) return;
+    if (element.focusable() && element.TabStop) element.window().set_focus(&element);
+    if (element.MouseDown) element.MouseDown(event);
+  });
+}
+
+void mouse_move(Element& element, const MouseEvent& event) {
+  if (!element.MouseMove) return;
+  run(element.window(), [&] {
+    if (live(element)) element.MouseMove(event);
+  });
+}
+
+void mouse_up(Element& element, const MouseEvent& event) {
+  run(element.window(), [&] {
+    if (!live(element)) return;
+    const bool clicked = event.button == MouseButton::Left && inside(element, event);
+    if (element.MouseUp) element.MouseUp(event);
+    if (element.DragAutomatic && event.button == MouseButton::Left) drop(element, event);
+    if (clicked && element.Click && live(element)) element.Click();
+  });
+}
+
+void mouse_down(Window& window, const MouseEvent& event) {
+  run(window, [&] {
+    if (window.Enabled) window.MouseDown(event);
+  });
+}
+
+void mouse_move(Window& window, const MouseEvent& event) {
+  run(window, [&] {
+    if (window.Enabled) window.MouseMove(event);
+  });
+}
+
+void mouse_up(Window& window, const MouseEvent& event) {
+  run(window, [&] {
+    if (window.Enabled) window.MouseUp(event);
+  });
+}
+
+bool key_down(Window& window, KeyEvent event) {
+  bool machine_follows = false;
+  run(window, [&] {
+    if (window.Enabled) machine_follows = key_down_in_event(window, event);
+  });
+  return machine_follows;
+}
+
+void key_up(Window& window, KeyEvent event) {
+  run(window, [&] {
+    if (window.Enabled) window.KeyUp(event);
+  });
+}
+
+void toggle(CheckBox& box) { click(box); }
+
+void choose(OptionButton& option) { click(option); }
+
+void type(TextBox& box, TextView text) {
+  run(box.window(), [&] {
+    if (!live(box) || box.Locked) return;
+    const bool limited = box.MaxLength > 0 && text.size() > static_cast<std::size_t>(box.MaxLength);
+    box.set_text(limited ? text.substr(0, static_cast<std::size_t>(box.MaxLength)) : text);
+    int number = 0;
+    const UpDown* stepper = box.Stepper;
+    if (stepper != nullptr && whole_number(text, number) && stepper->clamped(number) == number)
+      box.Stepper->set_value(number);
+  });
+}
+
+void finish_typing(TextBox& box) {
+  if (box.Stepper == nullptr) return;
+  run(box.window(), [&box] {
+    int number = 0;
+    UpDown& stepper = *box.Stepper;
+    stepper.set_value(whole_number(box.text(), number) ? stepper.clamped(number) : stepper.value());
+  });
+}
+
+void step(UpDown& updown, int direction) {
+  run(updown.window(), [&] {
+    if (live(updown)) updown.set_value(updown.clamped(updown.value() + direction * updown.Increment));
+  });
+}
+
+void select(ListBox& list, int index) {
+  run(list.window(), [&] {
+    if (live(list)) list.set_list_index(index);
+  });
+}
+
+void scroll(ScrollBar& bar, int value) {
+  run(bar.window(), [&] {
+    if (live(bar)) bar.set_value(std::max(bar.Min, std::min(bar.Max, value)));
+  });
+}
+
+void focus(Element& element) {
+  run(element.window(), [&element] { element.window().set_focus(&element); });
+}
+
+Element* next_focus(const Window& window, bool backwards) {
+  std::vector<Element*> stops;
+  for (Element* element : window.elements()) {
+    if (!element->focusable() || !element->TabStop || !live(*element)) continue;
+    // One stop a group of options: the one that is on.
+    const bool off_option =
+        element->kind() == ElementKind::OptionButton && !static_cast<OptionButton*>(element)->value();
+    if (!off_option) stops.push_back(element);
+  }
+  if (stops.empty()) return nullptr;
+  const auto here = std::find(stops.begin(), stops.end(), window.focus());
+  if (here == stops.end()) return backwards ? stops.back() : stops.front();
+  if (backwards) return here == stops.begin() ? stops.back() : *std::prev(here);
+  return std::next(here) == stops.end() ? stops.front() : *std::next(here);
+}
+
+void close(Window& window) {
+  if (Host* host = window.platform().host; host != nullptr && window.Enabled) host->close_request(window);
+}
+
+void activate(Window& window) {
+  run(window, [&window] { window.Activate(); });
+}
+
+void tick(Timer& timer) {
+  if (timer.InTick || !timer.running() || !timer.Tick) return;
+  run(timer.window(), [&timer] {
+    timer.InTick = true;
+    struct Done {
+      Timer& timer;
+      ~Done() { timer.InTick = false; }
+    } done{timer};
+    timer.Tick();
+  });
+}
+
+} // namespace cserko::input
