@@ -1,24 +1,26 @@
-// The machine's media control, spoken to by command strings.
+// Sound as the suite asks for it: command strings to the machine's media control, and a plain beep.
 #pragma once
 
-#include "platform/text.h"
+#include <string>
 
 namespace cserko {
 
-/// What a command came to: 0 or an error code, and the reply of a status question.
+/// What the media control answers. A code other than 0 is an error that `Media::error_text` puts into words.
 struct MediaResult {
   int code = 0;
-  Text reply;
+  std::u16string reply;
 };
 
+/// The machine's media control, spoken to by command strings. All calls come from the one thread of the suite and
+/// return at once; sounds play in the background.
 class Media {
  public:
   virtual ~Media() = default;
-  /// Carries out one command string and returns at once; sounds play in the background.
-  virtual MediaResult send(const Text& command) = 0;
-  /// A Hungarian sentence for an error code.
-  virtual Text error_text(int code) = 0;
-  /// The plain short beep.
+  /// Carries out one command string. Nothing is thrown: what fails comes back as a code.
+  virtual MediaResult send(const std::u16string& command) = 0;
+  /// A Hungarian sentence that says what an error code means; empty for 0.
+  virtual std::u16string error_text(int code) = 0;
+  /// A short plain signal, heard beside whatever plays.
   virtual void beep() = 0;
 };
 
