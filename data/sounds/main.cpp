@@ -1,6 +1,6 @@
 // sound-builder TABLE SOUND_FONT PACK: makes every sound file of the data pack and the factory lists of event sounds.
 
-#include "../pack_file.h"
+#include "../wordlist/pack_file.h"
 #include "render.h"
 #include "sound_table.h"
 #include "wave_file.h"
