@@ -26,8 +26,8 @@ Settings make_settings() {
   Settings settings(new_fluid_settings(), &delete_fluid_settings);
   fluid_settings_setnum(settings.get(), "synth.sample-rate", sample_rate);
   fluid_settings_setnum(settings.get(), "synth.gain", 0.8);
-  fluid_settings_setint(settings.get(), "synth.cpu-cores", 1);      // more would mix in any order
-  fluid_settings_setint(settings.get(), "synth.chorus.active", 0);  // blurs short sounds
+  fluid_settings_setint(settings.get(), "synth.cpu-cores", 1);     // more would mix in any order
+  fluid_settings_setint(settings.get(), "synth.chorus.active", 0); // blurs short sounds
   fluid_settings_setint(settings.get(), "synth.reverb.active", 1);
   fluid_settings_setnum(settings.get(), "synth.reverb.room-size", 0.3);
   fluid_settings_setnum(settings.get(), "synth.reverb.level", 0.25);
@@ -49,9 +49,8 @@ std::vector<Event> events_of(const std::vector<SoundLayer>& layers) {
     }
   }
   // A key that is struck again just as it is released has to be released first.
-  std::ranges::stable_sort(events, [](const Event& a, const Event& b) {
-    return a.sample != b.sample ? a.sample < b.sample : a.on < b.on;
-  });
+  std::ranges::stable_sort(
+      events, [](const Event& a, const Event& b) { return a.sample != b.sample ? a.sample < b.sample : a.on < b.on; });
   return events;
 }
 

@@ -105,12 +105,16 @@ std::vector<Sound> read_sound_table(std::istream& table) {
 std::string path_in_pack(const Sound& sound) {
   const std::string file = sound.name + ".wav";
   switch (sound.role) {
-  case SoundRole::Silence: return file;
-  case SoundRole::Effect: return "cserko/" + file;
-  case SoundRole::Drum: return "hangok/dob/" + file;
+  case SoundRole::Silence:
+    return file;
+  case SoundRole::Effect:
+    return "cserko/" + file;
+  case SoundRole::Drum:
+    return "hangok/dob/" + file;
   case SoundRole::Success:
   case SoundRole::Error:
-  case SoundRole::Praise: break;
+  case SoundRole::Praise:
+    break;
   }
   return "hangok/" + file;
 }

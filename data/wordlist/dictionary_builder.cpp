@@ -1,5 +1,5 @@
-// dictionary-builder AFFIXES DICTIONARY OUT: takes the plain words of the spelling dictionary out of it, one a line, UTF-8.
-// It is a step of its own because it takes most of the time and does not depend on the pictures.
+// dictionary-builder AFFIXES DICTIONARY OUT: takes the plain words of the spelling dictionary out of it, one a line,
+// UTF-8. It is a step of its own because it takes most of the time and does not depend on the pictures.
 
 #include "spelling.h"
 

@@ -1,9 +1,11 @@
 #include "spelling.h"
 
 #include <algorithm>
+#include <array>
 #include <fstream>
 #include <hunspell.hxx>
 #include <stdexcept>
+#include <string_view>
 
 namespace cserko {
 
@@ -11,25 +13,26 @@ namespace {
 
 constexpr std::size_t shortest_word = 2;
 constexpr std::size_t longest_word = 16; // no picture has a longer name
-constexpr std::size_t longest_noun_for_plural = 12;
+constexpr std::size_t longest_root = 12; // whose plural or verbal forms are taken too
 
 bool is_small_letter(char16_t character) {
   return (character >= u'a' && character <= u'z') || TextView(u"áéíóöőúüű").find(character) != TextView::npos;
 }
 
 /// Entries such as "aaaa…" only help the dictionary to count syllables.
-bool repeats_one_letter(const Text& word) {
-  return word.size() > 2 && word.find_first_not_of(word[0]) == Text::npos;
-}
+bool repeats_one_letter(const Text& word) { return word.size() > 2 && word.find_first_not_of(word[0]) == Text::npos; }
+
+/// Abbreviations such as "kg" are no words to be laid out of letters.
+bool has_vowel(const Text& word) { return word.find_first_of(u"aáeéiíoóöőuúüű") != Text::npos; }
 
 bool is_plain_word(const Text& word) {
   return word.size() >= shortest_word && word.size() <= longest_word && std::ranges::all_of(word, is_small_letter) &&
-         !repeats_one_letter(word);
+         has_vowel(word) && !repeats_one_letter(word);
 }
 
 /// Whether an analysis of the dictionary holds a field, such as "po:noun", whole.
-bool holds(const std::string& analysis, const std::string& field) {
-  return (analysis + ' ').find(' ' + field + ' ') != std::string::npos;
+bool holds(const std::string& analysis, std::string_view field) {
+  return (analysis + ' ').find(' ' + std::string(field) + ' ') != std::string::npos;
 }
 
 /// Compounds that the dictionary makes up by itself name their parts.
@@ -42,26 +45,48 @@ bool is_word(Hunspell& speller, const std::string& word) {
          });
 }
 
-bool is_noun(Hunspell& speller, const std::string& word) {
-  return std::ranges::any_of(speller.analyze(word), [&](const std::string& analysis) {
-    return is_listed(analysis) && holds(analysis, "st:" + word) && holds(analysis, "po:noun") &&
-           holds(analysis, "ts:NOM") && analysis.find("is:") == std::string::npos;
+/// A form that the dictionary does not list but understands: a word made from a root of a given kind with given fields.
+struct Derivation {
+  std::string_view kind;   // of the root
+  std::string_view form;   // what the analysis has to hold besides
+  std::string_view ending; // and that no other ending follows
+};
+
+constexpr std::array<Derivation, 4> derivations = {{
+    {"po:noun", "is:PLUR", "is:NOM"},
+    {"po:vrb", "is:ni_INFINITIVE_inf", ""},
+    {"po:vrb", "ds:Ó_PRESPART_adj", "ts:NOM"},
+    {"po:vrb", "ds:Ás_PROCESS/RESULT_noun", "ts:NOM"},
+}};
+
+std::size_t count_of(const std::string& text, std::string_view part) {
+  std::size_t count = 0;
+  for (auto at = text.find(part); at != std::string::npos; at = text.find(part, at + 1)) ++count;
+  return count;
+}
+
+bool derives(const std::string& analysis, const std::string& root, const Derivation& derivation) {
+  const std::size_t inflections = derivation.kind == "po:noun" ? 2 : derivation.ending.empty() ? 1 : 0;
+  return is_listed(analysis) && holds(analysis, "st:" + root) && holds(analysis, derivation.kind) &&
+         holds(analysis, derivation.form) && (derivation.ending.empty() || holds(analysis, derivation.ending)) &&
+         count_of(analysis, " is:") == inflections;
+}
+
+bool is_form_of(Hunspell& speller, const std::string& word, const std::string& root) {
+  if (!speller.spell(word)) return false;
+  const auto analyses = speller.analyze(word);
+  return std::ranges::any_of(derivations, [&](const Derivation& derivation) {
+    return std::ranges::any_of(analyses, [&](const auto& analysis) { return derives(analysis, root, derivation); });
   });
 }
 
-bool is_plural_of(Hunspell& speller, const std::string& word, const std::string& noun) {
-  return speller.spell(word) && std::ranges::any_of(speller.analyze(word), [&](const std::string& analysis) {
-           return is_listed(analysis) && holds(analysis, "st:" + noun) && holds(analysis, "po:noun") &&
-                  holds(analysis, "is:PLUR") && holds(analysis, "is:NOM") &&
-                  analysis.find("POSS") == std::string::npos;
-         });
-}
-
-void add_plurals(Hunspell& speller, const Text& word, std::vector<Text>& words) {
-  const std::string noun = to_utf8(word);
-  if (word.size() > longest_noun_for_plural || !is_noun(speller, noun)) return;
-  for (const Text& plural : possible_plurals(word))
-    if (is_plural_of(speller, to_utf8(plural), noun)) words.push_back(plural);
+void add_forms(Hunspell& speller, const Text& root, std::vector<Text>& words) {
+  if (root.size() > longest_root) return;
+  std::vector<Text> forms = possible_plurals(root);
+  const std::vector<Text> verbal = possible_verb_forms(root);
+  forms.insert(forms.end(), verbal.begin(), verbal.end());
+  for (const Text& form : forms)
+    if (is_form_of(speller, to_utf8(form), to_utf8(root))) words.push_back(form);
 }
 
 /// The word of a dictionary line such as "alma/129<TAB>1".
@@ -78,6 +103,11 @@ std::vector<Text> possible_plurals(const Text& noun) {
   return {noun + u"ok", noun + u"ek", noun + u"ök", noun + u"ak"};
 }
 
+std::vector<Text> possible_verb_forms(const Text& verb) {
+  const Text root = verb.ends_with(u"ik") ? verb.substr(0, verb.size() - 2) : verb;
+  return {root + u"ni", root + u"ani", root + u"eni", root + u"ó", root + u"ő", root + u"ás", root + u"és"};
+}
+
 std::vector<Text> dictionary_words(const std::filesystem::path& affixes, const std::filesystem::path& dictionary) {
   std::ifstream lines(dictionary);
   std::string line;
@@ -88,7 +118,7 @@ std::vector<Text> dictionary_words(const std::filesystem::path& affixes, const s
     const Text word = word_of(line);
     if (!is_plain_word(word) || !is_word(speller, to_utf8(word))) continue;
     words.push_back(word);
-    add_plurals(speller, word, words);
+    add_forms(speller, word, words);
   }
   return words;
 }

@@ -11,14 +11,14 @@ namespace cserko {
 
 /// Words that must not be shown, by a list of patterns.
 class UnsuitableWords {
-public:
+ public:
   /// Reads one pattern a line, UTF-8; empty lines and lines that start with "#" are skipped. "word" stands for the word
   /// and its plural, "word*" for all words that start with it, "*word" for all that end with it, "*word*" for both.
   explicit UnsuitableWords(std::istream& patterns);
 
   bool contains(const Text& word) const;
 
-private:
+ private:
   std::vector<Text> whole_;
   std::vector<Text> starts_;
   std::vector<Text> ends_;

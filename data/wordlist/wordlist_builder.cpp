@@ -1,5 +1,5 @@
-// wordlist-builder DICTIONARY UNSUITABLE PACK [NAMES]: makes ms.skt of the words that dictionary-builder found and of the
-// names of the pictures.
+// wordlist-builder DICTIONARY UNSUITABLE PACK [NAMES]: makes ms.skt of the words that dictionary-builder found and of
+// the names of the pictures.
 
 #include "pack_file.h"
 #include "word_list.h"
