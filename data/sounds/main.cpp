@@ -1,6 +1,7 @@
 // sound-builder TABLE SOUND_FONT PACK: makes every sound file of the data pack and the factory lists of event sounds.
 
 #include "../wordlist/pack_file.h"
+#include "../wordlist/settings_lines.h"
 #include "render.h"
 #include "sound_table.h"
 #include "wave_file.h"
@@ -13,20 +14,17 @@ namespace {
 
 using namespace cserko;
 
-/// Numbers stand in settings files with a blank in the place of the sign and a blank behind.
-constexpr const char* ticked = " 1 \r\n";
-
 std::string names_of(const std::vector<Sound>& sounds, SoundRole role) {
   std::string names;
   for (const Sound& sound : sounds)
-    if (sound.role == role) names += sound.name + ".wav\r\n";
+    if (sound.role == role) names += text_line(sound.name + ".wav");
   return names;
 }
 
 void write_lists(const std::vector<Sound>& sounds, const std::filesystem::path& pack) {
   constexpr int check_boxes = 5; // every kind of event sound is on until the user says otherwise
   std::string praise;
-  for (int i = 0; i < check_boxes; ++i) praise += ticked;
+  for (int i = 0; i < check_boxes; ++i) praise += number_line(1);
   write_pack_file(pack, "cserko/grathang.ini", praise + names_of(sounds, SoundRole::Praise));
   write_pack_file(pack, "cserko/helyeshang.ini", names_of(sounds, SoundRole::Success));
   write_pack_file(pack, "cserko/hibahang.ini", names_of(sounds, SoundRole::Error));
