@@ -1,0 +1,182 @@
+#include "core/kszöveg.h"
+
+#include <algorithm>
+#include <array>
+#include <stdexcept>
+
+namespace cserko {
+
+namespace {
+
+// The letters of several characters. Their order breaks ties: the longer ones come first.
+constexpr std::array<TextView, 17> toldalék{u"dzs", u"ccs", u"ddz", u"ggy", u"lly", u"nny", u"ssz", u"tty", u"zzs",
+                                            u"cs",  u"dz",  u"gy",  u"ly",  u"ny",  u"sz",  u"ty",  u"zs"};
+
+constexpr std::array<char16_t, 14> vowels{u'a', u'á', u'e', u'é', u'i', u'í', u'o',
+                                          u'ó', u'ö', u'ő', u'u', u'ú', u'ü', u'ű'};
+
+// The letter of several characters at the start of a lower-cased text, empty if there is none.
+TextView long_letter_at_start(TextView text) {
+  const auto found =
+      std::find_if(toldalék.begin(), toldalék.end(), [text](TextView letter) { return text.starts_with(letter); });
+  return found == toldalék.end() ? TextView() : *found;
+}
+
+int limited(int n, int length) { return n > 0 && n > length ? length : n; }
+
+} // namespace
+
+void kszöveg::value(TextView text) {
+  szöveg_ = text;
+  felbontás();
+}
+
+void kszöveg::felbontás() {
+  betűk_.assign(szöveg_.size(), Text());
+  betűszám_ = 0;
+  if (nyelv_ != magyar) {
+    for (const char16_t character : szöveg_) betűk_[static_cast<std::size_t>(betűszám_++)] = character;
+    return;
+  }
+  if (!cut_exception()) cut_letters();
+}
+
+// In these compounds letters of two words meet at the seam and would be read as one. Two of them keep the case of the
+// text and two are always written in lower case, which is intended.
+bool kszöveg::cut_exception() {
+  if (szöveg_.size() < 8 || szöveg_.size() > 12) return false;
+  const Text lower = lower_case(szöveg_);
+  if (lower == u"rajzszög" || lower == u"rajzszeg") {
+    const Text& s = szöveg_;
+    set_letters({s.substr(0, 1), s.substr(1, 1), s.substr(2, 1), s.substr(3, 1), s.substr(4, 2), s.substr(6, 1),
+                 s.substr(7, 1)});
+  } else if (lower == u"karosszék") {
+    set_letters({u"k", u"a", u"r", u"o", u"s", u"sz", u"é", u"k"});
+  } else if (lower == u"magánnyomozó") {
+    set_letters({u"m", u"a", u"g", u"á", u"n", u"ny", u"o", u"m", u"o", u"z", u"ó"});
+  } else {
+    return false;
+  }
+  return true;
+}
+
+void kszöveg::cut_letters() {
+  const Text lower = lower_case(szöveg_);
+  for (std::size_t at = 0; at < szöveg_.size();) {
+    const std::size_t length = std::max<std::size_t>(1, long_letter_at_start(TextView(lower).substr(at)).size());
+    betűk_[static_cast<std::size_t>(betűszám_++)] = szöveg_.substr(at, length);
+    at += length;
+  }
+}
+
+void kszöveg::set_letters(const std::vector<Text>& letters) {
+  std::copy(letters.begin(), letters.end(), betűk_.begin());
+  betűszám_ = static_cast<int>(letters.size());
+}
+
+Text kszöveg::jobbrólvágott(int& n) const {
+  n = std::max(0, limited(n, lenght()));
+  return szöveg_.substr(0, szöveg_.size() - static_cast<std::size_t>(n));
+}
+
+Text kszöveg::balrólvágott(int& n) const {
+  n = std::max(0, limited(n, lenght()));
+  return szöveg_.substr(static_cast<std::size_t>(n));
+}
+
+void kszöveg::levág_jobbról(int& n) {
+  n = limited(n, lenght());
+  if (n > 0) szöveg_ = jobbrólvágott(n);
+}
+
+void kszöveg::levág_balról(int& n) {
+  n = limited(n, lenght());
+  if (n > 0) szöveg_ = balrólvágott(n);
+}
+
+void kszöveg::beszúr(int& position, TextView text) { szöveg_ = beszúr_nem_változik(position, text); }
+
+Text kszöveg::beszúr_nem_változik(int& position, TextView text) const {
+  position = std::clamp(position, 1, lenght() + 1);
+  Text result = szöveg_;
+  return result.insert(static_cast<std::size_t>(position - 1), text);
+}
+
+void kszöveg::lenght(int n) { szöveg_.resize(static_cast<std::size_t>(std::max(0, n)), töltelékkarakter_); }
+
+void kszöveg::töltelékkarakter(TextView text) {
+  if (!text.empty()) töltelékkarakter_ = text.front();
+}
+
+void kszöveg::csere(TextView sought, TextView replacement) {
+  Text result;
+  TextView rest = szöveg_;
+  while (!sought.empty()) {
+    const std::size_t found = rest.find(sought);
+    if (found == TextView::npos) break;
+    result.append(rest.substr(0, found)).append(replacement);
+    rest.remove_prefix(found + sought.size());
+  }
+  result.append(rest);
+  value(result);
+}
+
+void kszöveg::szövegnyelv(int code) {
+  if (code == magyar || code == angol) nyelv_ = code;
+}
+
+void kszöveg::szövegnyelv(TextView word) {
+  if (equal_ignoring_case(word, u"magyar")) nyelv_ = magyar;
+  if (equal_ignoring_case(word, u"english") || equal_ignoring_case(word, u"angol")) nyelv_ = angol;
+}
+
+Text kszöveg::szóbetűje(int& n) const {
+  n = std::min(n, betűszám_);
+  return n > 0 ? letter(n) : Text();
+}
+
+bool kszöveg::EzabetűMagánhangzóE(int n) const {
+  const Text& sought = letter(n);
+  return sought.size() == 1 && std::find(vowels.begin(), vowels.end(), sought.front()) != vowels.end();
+}
+
+const Text& kszöveg::letter(int n) const {
+  if (n < 1 || n > static_cast<int>(betűk_.size())) throw std::out_of_range("kszöveg: the word has no such letter");
+  return betűk_[static_cast<std::size_t>(n - 1)];
+}
+
+Text kszöveg::joined(int first, int last) const {
+  Text result;
+  for (int n = first; n <= last; ++n) result += letter(n);
+  return result;
+}
+
+Text kszöveg::magyarright(int n) const {
+  if (n < 0) return {};
+  if (n == 0 && betűk_.empty()) throw std::out_of_range("kszöveg: there are no letters");
+  if (n > betűszám_) throw std::out_of_range("kszöveg: the word has fewer letters");
+  return joined(betűszám_ - n + 1, betűszám_);
+}
+
+Text kszöveg::magyarleft(int n) const {
+  if (n == 0 && betűk_.empty()) throw std::out_of_range("kszöveg: there are no letters");
+  if (n > static_cast<int>(betűk_.size())) throw std::out_of_range("kszöveg: the word has fewer letters");
+  return joined(1, n);
+}
+
+Text kszöveg::VesszősSzöveg() const {
+  Text list = u",";
+  for (int n = 1; n <= betűszám_; ++n) list += letter(n) + u",";
+  return list;
+}
+
+bool kszöveg::vanebenne(TextView sought) const {
+  return VesszősSzöveg().find(u"," + Text(sought) + u",") != Text::npos;
+}
+
+Text kszöveg::Névelővel(bool capital) const {
+  const bool vowel = EzabetűMagánhangzóE(1);
+  return (capital ? u"A" : u"a") + Text(vowel ? u"z " : u" ") + szöveg_;
+}
+
+} // namespace cserko
