@@ -1,0 +1,115 @@
+// The look of the windows: the program's icon and the paper behind everything. Drawn by code, the same on each machine.
+#include "data/builder/builder.h"
+#include "data/pack/table.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+
+namespace cserko {
+namespace {
+
+QByteArray png_of(const QImage& image) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  if (!image.save(&buffer, "PNG")) throw PackError("a PNG picture cannot be made");
+  return buffer.data();
+}
+
+QPainterPath ink_drop(QPointF tip, double height) {
+  const double half = height * 0.33;
+  QPainterPath drop(tip);
+  drop.cubicTo(tip + QPointF(half * 0.35, height * 0.32), tip + QPointF(half, height * 0.42),
+               tip + QPointF(half, height * 0.67));
+  drop.cubicTo(tip + QPointF(half, height * 0.86), tip + QPointF(half * 0.55, height), tip + QPointF(0, height));
+  drop.cubicTo(tip + QPointF(-half * 0.55, height), tip + QPointF(-half, height * 0.86),
+               tip + QPointF(-half, height * 0.67));
+  drop.cubicTo(tip + QPointF(-half, height * 0.42), tip + QPointF(-half * 0.35, height * 0.32), tip);
+  return drop;
+}
+
+// An ink drop over a hand-drawn line, on a cream card.
+QImage window_icon() {
+  constexpr int side = 256;
+  const QColor cream(0xFF, 0xF6, 0xE0), edge(0xC9, 0x6F, 0x2B), ink(0x3B, 0x27, 0x1A), gleam(0xF3, 0xC9, 0x8B);
+  QImage image(side, side, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(edge, 14));
+  painter.setBrush(cream);
+  painter.drawRoundedRect(QRectF(13, 13, side - 26, side - 26), 46, 46);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(ink);
+  painter.drawPath(ink_drop({128, 40}, 138));
+  painter.setBrush(gleam);
+  painter.drawEllipse(QPointF(110, 140), 10, 17);
+  QPainterPath line({58, 206});
+  line.cubicTo(86, 186, 100, 228, 128, 206);
+  line.cubicTo(156, 184, 170, 226, 198, 206);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(edge, 13, Qt::SolidLine, Qt::RoundCap));
+  painter.drawPath(line);
+  return image;
+}
+
+// A small generator of its own keeps the paper's grain the same in every build.
+class Grain {
+ public:
+  double next() {
+    state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+    return static_cast<double>(state_ >> 40) / static_cast<double>(1 << 24);
+  }
+
+ private:
+  std::uint64_t state_ = 1;
+};
+
+constexpr int kPaperSide = 256;
+using Sheet = std::vector<double>;
+
+// Softens the grain with a box that wraps round, so that the sheet tiles without a seam.
+Sheet softened(const Sheet& sheet, int reach) {
+  Sheet result(sheet.size());
+  for (int y = 0; y < kPaperSide; ++y)
+    for (int x = 0; x < kPaperSide; ++x) {
+      double sum = 0;
+      for (int dy = -reach; dy <= reach; ++dy)
+        for (int dx = -reach; dx <= reach; ++dx) {
+          const int px = (x + dx + kPaperSide) % kPaperSide, py = (y + dy + kPaperSide) % kPaperSide;
+          sum += sheet[static_cast<size_t>(py * kPaperSide + px)];
+        }
+      result[static_cast<size_t>(y * kPaperSide + x)] = sum / ((2 * reach + 1) * (2 * reach + 1));
+    }
+  return result;
+}
+
+// Cream, with a grain so faint that no letter on it is harder to read.
+QImage paper() {
+  Grain grain;
+  Sheet noise(kPaperSide * kPaperSide);
+  for (double& value : noise) value = grain.next() - 0.5;
+  const Sheet fine = softened(noise, 1), broad = softened(softened(noise, 6), 6);
+  QImage image(kPaperSide, kPaperSide, QImage::Format_RGB32);
+  for (int y = 0; y < kPaperSide; ++y)
+    for (int x = 0; x < kPaperSide; ++x) {
+      const size_t i = static_cast<size_t>(y * kPaperSide + x);
+      const int shade = static_cast<int>(std::lround(std::clamp(fine[i] * 10 + broad[i] * 60, -4.0, 4.0)));
+      image.setPixel(x, y, qRgb(std::min(255, 251 + shade), 244 + shade, 226 + shade));
+    }
+  return image;
+}
+
+} // namespace
+
+void build_look(const BuildPaths& paths) {
+  write_if_changed(paths.output + "/cserko-icon.png", png_of(window_icon()));
+  write_if_changed(paths.output + "/paper.png", png_of(paper()));
+}
+
+} // namespace cserko
