@@ -398,6 +398,10 @@ class Line : public Element {
   bool Rising = false; ///< From the left bottom to the right top corner instead.
 };
 
+/// An interval shorter than 10 ms means "as fast as the machine likes": machines then fire every `idle_pace` ms, quick
+/// enough for a decoration to move and slow enough to leave the processor alone.
+inline constexpr int idle_pace = 50;
+
 /// Fires every `Interval` milliseconds while it is enabled; 0 stops it. It does not fire while its own handler runs.
 class Timer : public Element {
  public:
@@ -406,6 +410,8 @@ class Timer : public Element {
   std::function<void()> Tick;
   bool InTick = false; ///< Kept by the machine: the handler is running.
   bool running() const { return Enabled && Interval > 0; }
+  /// What lies between two ticks, ms.
+  int period() const { return Interval < 10 ? idle_pace : Interval; }
 };
 
 /// An entry of the menu bar or, inside another entry, of its menu. The caption "-" is a separator.

@@ -1,0 +1,180 @@
+#include "core/session.h"
+
+#include "core/frm_folyamat.h"
+#include "core/frm_főablak.h"
+#include "core/frm_főablak_beállítások.h"
+#include "core/frm_referencia.h"
+#include "core/nothing_fits.h"
+
+#include <algorithm>
+
+namespace cserko {
+
+namespace {
+
+Text explain(const std::exception& error, const Window& window) {
+  return u"Hiba történt itt: " + (window.Caption.empty() ? window.Name : window.Caption) + u"\r\n" +
+         from_utf8(error.what());
+}
+
+} // namespace
+
+Session::Session(Platform& platform) : alapkönyvtár(platform.application_folder()), platform_(platform) {
+  platform_.host = this;
+}
+
+Session::~Session() {
+  platform_.host = nullptr;
+  for (const auto& entry : loaded_) platform_.detach(*entry->window);
+}
+
+Window* Session::loaded_window(std::type_index type) const {
+  const auto found =
+      std::find_if(loaded_.begin(), loaded_.end(), [&](const auto& entry) { return entry->type == type; });
+  return found == loaded_.end() ? nullptr : (*found)->window.get();
+}
+
+bool Session::is_loaded(const Window& window) const {
+  return std::any_of(loaded_.begin(), loaded_.end(), [&](const auto& entry) { return entry->window.get() == &window; });
+}
+
+Window& Session::adopt(std::type_index type, std::unique_ptr<Window> window) {
+  Window& adopted = *window;
+  loaded_.push_back(std::make_unique<Loaded>(Loaded{type, std::move(window), event_depth_}));
+  adopted.set_inner_size(adopted.design_size());
+  platform_.attach(adopted);
+  adopted.Load();
+  return adopted;
+}
+
+bool Session::ticked(TextView window_name, TextView check_box) {
+  if (!offers(window_name)) return false;
+  const Element* element = window(window_name).find(check_box);
+  return element != nullptr && element->kind() == ElementKind::CheckBox &&
+         static_cast<const CheckBox*>(element)->ticked();
+}
+
+void Session::unload(Window& window) {
+  const auto matches = [&](const auto& entry) { return entry->window.get() == &window; };
+  const auto found = std::find_if(loaded_.begin(), loaded_.end(), matches);
+  if (found == loaded_.end() || (*found)->unloading) return;
+
+  Loaded& entry = **found;
+  entry.unloading = true;
+  bool cancel = false;
+  try {
+    window.QueryUnload(cancel);
+    if (!cancel) window.Unload();
+  } catch (...) {
+    entry.unloading = false;
+    throw;
+  }
+  entry.unloading = false;
+  if (cancel) return;
+  platform_.hide(window);
+  platform_.detach(window);
+  // The handlers may have loaded or unloaded other windows: look the entry up again.
+  const auto gone = std::find_if(loaded_.begin(), loaded_.end(), matches);
+  unloaded_.push_back(std::move(*gone));
+  loaded_.erase(gone);
+}
+
+void Session::run_event(Window& window, const std::function<void()>& handler) {
+  if (platform_.ended()) return;
+  ++event_depth_;
+  try {
+    handler();
+  } catch (const NothingFits& unfit) {
+    feedback.tell(unfit.message());
+  } catch (const std::exception& error) {
+    platform_.report_error(explain(error, window));
+  }
+  bury_the_dead(event_depth_);
+  --event_depth_;
+}
+
+void Session::bury_the_dead(int event_depth) {
+  // A window unloads itself from its own handlers, and whoever showed it may still hold it. Nobody does any more when
+  // the event in which it was loaded has ended.
+  unloaded_.erase(std::remove_if(unloaded_.begin(), unloaded_.end(),
+                                 [&](const auto& entry) { return entry->event_depth >= event_depth; }),
+                  unloaded_.end());
+}
+
+void Session::close_request(Window& window) {
+  run_event(window, [&] { unload(window); });
+}
+
+void Session::képadatok_betöltése() {
+  auto& progress = window<FrmFolyamat>();
+  progress.Caption = u"Adatfeldolgozás...";
+  const Size screen = platform_.screen_size();
+  progress.Left = screen.width / 2 - progress.Width / 2;
+  progress.Top = screen.height / 2 - progress.Height / 2;
+  platform_.show(progress);
+  platform_.redraw(progress);
+  képek.load(platform_.files(), alapkönyvtár, [&](int index) {
+    progress.ProgressBar.Max = képek.képszám;
+    platform_.redraw(progress);
+    progress.ProgressBar.Value = index;
+  });
+  unload(progress);
+  if (képek.left_out() > 0) {
+    platform_.report_error(u"Túl sok a kép: az utolsó " + to_text(képek.left_out()) + u" szót nem használjuk.");
+  }
+}
+
+void Session::Main() {
+  prepare();
+  run_main_windows();
+  if (platform_.ended()) return;
+  close_down();
+}
+
+void Session::prepare() {
+  platform_.seed_random();
+  játékszámláló = 5;
+  feedback.hang_lejátszás(u"*");
+  if (ticked(u"frm_hangbeáll", u"chk_hang_a_főablakban"))
+    feedback.hang_lejátszás(alapkönyvtár + u"cserko\\clack 1.wav");
+  auto& reference = window<frm_referencia>();
+  reference.Timer_zene.Enabled = ticked(u"frm_zenebeáll", u"chk_zene_enged");
+  reference.Font.name = u"Times New Roman CE";
+  képadatok_betöltése();
+}
+
+void Session::run_main_windows() {
+  const auto graphic = [this] {
+    return offers(u"frm_grafikus_főablak") && window<frm_főablak_beállítások>().chk_grafikus_főablak.ticked();
+  };
+  // The text window leaves by ending the process, so in practice only the graphic one returns here.
+  while (!platform_.ended()) {
+    const bool with_pictures = graphic();
+    platform_.show_modal(with_pictures ? window(u"frm_grafikus_főablak") : window<frm_főablak>());
+    if (graphic() == with_pictures) return;
+  }
+}
+
+void Session::close_down() {
+  feedback.hang_lejátszás({});
+  feedback.zene_lejátszás({});
+  delete_work_file(platform_);
+  try {
+    platform_.start_process(alapkönyvtár + u"portál.exe klki", ProcessWindow::Normal);
+  } catch (const std::exception& error) {
+    platform_.report_error(from_utf8(error.what()));
+  }
+  platform_.end_process();
+}
+
+void delete_work_file(Platform& platform) {
+  const Text work_file = Text(fixed_root) + u"temp.bmp";
+  if (!platform.files().exists(work_file)) return;
+  try {
+    platform.files().remove(work_file);
+  } catch (const FileError&) {
+    // It is looked for again at the next exit.
+  }
+}
+
+} // namespace cserko

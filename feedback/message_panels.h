@@ -1,0 +1,75 @@
+// The four panels in which the suite speaks to the child: two with text alone, two with a picture as well.
+#pragma once
+
+#include "core/session.h"
+
+namespace cserko {
+
+/// A text with a button. Set the text with `szöveg.set_caption` before showing it: the text is fitted at once.
+class szövegüzenet : public Window {
+ public:
+  explicit szövegüzenet(Session& session);
+
+  Label szöveg{*this, u"szöveg", {240, 240, 7200, 3000}};
+  Button Command1{*this, u"Command1", {2700, 3480, 2280, 780}, u"OK"};
+
+  void Load() override;
+
+ private:
+  void fit_text();
+
+  Session& session_;
+  double text_width_ = 0;
+};
+
+/// A picture and a text, which is fitted when the panel comes up.
+class üzenet : public Window {
+ public:
+  explicit üzenet(Session& session);
+
+  PictureBox üzenet_kép{*this, u"üzenet_kép", {1920, 240, 3840, 3840}};
+  Label üzenet_szöveg{*this, u"üzenet_szöveg", {240, 4200, 7200, 780}};
+  Button Command1{*this, u"Command1", {2700, 5100, 2280, 780}, u"OK"};
+
+  void Load() override;
+  void Activate() override;
+
+ private:
+  Session& session_;
+};
+
+/// A text, printed as large as fits, with a button; closes by itself where `timer_bezár` has an interval.
+class frm_szövegüzenet : public Window {
+ public:
+  explicit frm_szövegüzenet(Session& session);
+
+  PictureBox pic_üzenet{*this, u"pic_üzenet", {240, 240, 7200, 3000}};
+  Button cmd_ok{*this, u"cmd_ok", {2700, 3480, 2280, 780}, u"Ok"};
+  Timer timer_bezár{*this, u"timer_bezár", 0};
+
+  void Load() override;
+
+ private:
+  Session& session_;
+};
+
+/// A picture with its name.
+class frm_üzenet : public Window {
+ public:
+  explicit frm_üzenet(Session& session);
+
+  PictureBox kép{*this, u"kép", {1440, 240, 4800, 4800}};
+  Label név{*this, u"név", {240, 5160, 7200, 780}};
+  Button cmd_ok{*this, u"cmd_ok", {2700, 6060, 2280, 780}, u"OK"};
+
+  void Load() override;
+
+ private:
+  Session& session_;
+};
+
+/// Shows a text until its button is pressed or the time is over: `tenths` of a second, 0 for no end, at most 327.
+/// Throws InvalidValue for a longer time.
+void szöveges_üzenet(Session& session, Text text, int tenths);
+
+} // namespace cserko
