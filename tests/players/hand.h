@@ -1,0 +1,21 @@
+// The hand of a player. A player solves rounds through the elements alone, and the same player plays on every machine:
+// it is given the hand that fits.
+#pragma once
+
+#include "platform/elements.h"
+
+namespace cserko {
+
+class Hand {
+ public:
+  virtual ~Hand() = default;
+
+  /// Clicks an element in its middle.
+  virtual void click(Element& element) = 0;
+  /// Takes an element in its middle, moves it by that distance (twips) and lets go.
+  virtual void drag(Element& element, double dx, double dy) = 0;
+  /// Presses and releases a key in the window at the front: its code and the shift mask.
+  virtual void key(int code, int shift) = 0;
+};
+
+} // namespace cserko
