@@ -1,6 +1,8 @@
 #include "feedback/feedback.h"
 
+#include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_hangbeáll.h"
+#include "feedback/frm_zenebeáll.h"
 #include "feedback/message_panels.h"
 #include "feedback/sounds.h"
 
@@ -15,6 +17,8 @@ void install_feedback(Session& session) {
     session.platform().show_modal(panel);
   };
   session.offer<frm_hangbeáll>(u"frm_hangbeáll");
+  session.offer<frm_zenebeáll>(u"frm_zenebeáll");
+  session.offer<frm_dobszerkó>(u"frm_dobszerkó");
 }
 
 } // namespace cserko

@@ -7,16 +7,28 @@
 
 namespace cserko {
 
-/// An element array. Handlers set on the array serve all its elements and are given the index.
+/// The lowest index of an array that does not start at 0.
+struct FirstIndex {
+  int value = 0;
+};
+
+/// An element array. Handlers set on the array serve all its elements and are given the index. The element of the
+/// lowest index, 0 unless another is given, belongs to the design and is the model of those loaded later.
 template<class T> class ElementArray {
  public:
-  /// An array with the design element 0 alone.
+  /// An array with the design element alone.
   template<class... Design>
   ElementArray(Parent parent, TextView name, Rect place, const Design&... design)
-      : parent_(parent), name_(name), make_([design...](Parent in, TextView element_name, Rect at) {
+      : ElementArray(parent, name, FirstIndex{}, place, design...) {}
+  template<class... Design>
+  ElementArray(Parent parent, TextView name, FirstIndex first, Rect place, const Design&... design)
+      : parent_(parent),
+        name_(name),
+        first_(first.value),
+        make_([design...](Parent in, TextView element_name, Rect at) {
           return std::make_unique<T>(in, element_name, at, design...);
         }) {
-    add(0, place);
+    add(first_, place);
   }
   ElementArray(const ElementArray&) = delete;
   ElementArray& operator=(const ElementArray&) = delete;
@@ -34,12 +46,13 @@ template<class T> class ElementArray {
   bool loaded(int index) const { return elements_.count(index) != 0; }
   int count() const { return static_cast<int>(elements_.size()); }
 
-  /// Creates an element like element 0, hidden. Throws InvalidValue if the index is taken.
+  /// Creates an element like the design element, hidden. Throws InvalidValue if the index is taken.
   T& load(int index) {
     if (loaded(index)) throw InvalidValue("element array: the index is loaded already");
-    const T& design = *elements_.at(0);
+    const T& design = *elements_.at(first_);
     T& element = add(index, {design.Left, design.Top, design.Width, design.Height});
     element.Caption = design.Caption;
+    element.Tag = design.Tag;
     element.Font = design.Font;
     element.ForeColor = design.ForeColor;
     element.BackColor = design.BackColor;
@@ -63,9 +76,9 @@ template<class T> class ElementArray {
     return element;
   }
 
-  /// Takes an element away. Element 0 belongs to the design and stays: throws InvalidValue.
+  /// Takes an element away. The design element stays: throws InvalidValue.
   void unload(int index) {
-    if (index == 0) throw InvalidValue("element array: element 0 cannot be unloaded");
+    if (index == first_) throw InvalidValue("element array: the design element cannot be unloaded");
     if (const auto found = elements_.find(index); found != elements_.end()) {
       parent_.window().retire(std::move(found->second));
       elements_.erase(found);
@@ -109,6 +122,7 @@ template<class T> class ElementArray {
 
   Parent parent_;
   Text name_;
+  int first_;
   std::function<std::unique_ptr<T>(Parent, TextView, Rect)> make_;
   std::map<int, std::unique_ptr<T>> elements_;
 };

@@ -22,6 +22,8 @@ class Media {
   virtual std::u16string error_text(int code) = 0;
   /// A short plain signal, heard beside whatever plays.
   virtual void beep() = 0;
+  /// Why there is no sound, or no music: a Hungarian sentence; empty when nothing is known to be wrong.
+  virtual std::u16string silence_reason() const { return {}; }
 };
 
 } // namespace cserko

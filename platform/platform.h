@@ -102,6 +102,8 @@ class Platform {
   virtual Text application_folder() const = 0;
   /// Starts a program by its command line and does not wait. Throws std::runtime_error if it cannot be started.
   virtual void start_process(const Text& command_line, ProcessWindow window) = 0;
+  /// A text or number of the local machine's registry as text; none where there is no such value, or no registry.
+  virtual std::optional<Text> registry_value(const Text& /*key*/, const Text& /*name*/) const { return std::nullopt; }
   /// The platform's own message box with one button.
   virtual void message_box(const Text& text) = 0;
   /// Tells of a failure that no panel of the suite is meant for; the program goes on.
