@@ -95,9 +95,14 @@ void HeadlessPlatform::start_process(const Text& command_line, ProcessWindow win
   processes.push_back({command_line, window});
 }
 
+std::optional<Text> HeadlessPlatform::registry_value(const Text& key, const Text& name) const {
+  const auto found = registry.find({key, name});
+  return found == registry.end() ? std::nullopt : std::optional(found->second);
+}
+
 void HeadlessPlatform::report_error(const Text& text) {
-  // A machine that is stuck fails the test: the event boundary that has caught the failure here must not swallow it.
-  if (failure_) throw Stuck(*failure_);
+  // What went wrong in the test itself must not end at the event boundary that has caught it here.
+  if (failure_) std::rethrow_exception(failure_);
   errors.push_back(text);
 }
 
@@ -184,7 +189,7 @@ void HeadlessPlatform::show_modal(Window& window) {
     if (!script.empty() && is_shown(window) && !ended_) {
       const auto first = script.front();
       script.pop_front();
-      first(window);
+      let_person([&] { first(window); });
     }
     // The window may be gone when it is no longer shown: only its address is looked at.
     while (is_shown(window) && !ended_) turn(window);
@@ -202,7 +207,9 @@ void HeadlessPlatform::turn(Window& modal) {
 
 bool HeadlessPlatform::person_acts() {
   Window* front = active_window();
-  if (!user || front == nullptr || !user(*front)) return false;
+  bool acted = false;
+  if (user && front != nullptr) let_person([&] { acted = user(*front); });
+  if (!acted) return false;
   if (deed_time > 0) advance(deed_time);
   deeds_without_time_ = clock_ == last_deed_ ? deeds_without_time_ + 1 : 0;
   last_deed_ = clock_;
@@ -235,7 +242,7 @@ void HeadlessPlatform::pump_events(const std::function<bool()>& until) {
   const std::int64_t start = clock_;
   while (!ended_ && !until()) {
     activate_front();
-    if (during_wait) during_wait();
+    if (during_wait) let_person(during_wait);
     if (ended_ || until()) return;
     if (clock_ - start > patience) fail("a wait does not end");
     if (!fire_until(std::numeric_limits<std::int64_t>::max())) fail("a wait does not end and no timer runs");
@@ -249,10 +256,20 @@ std::string HeadlessPlatform::where() const {
   return text;
 }
 
+void HeadlessPlatform::let_person(const std::function<void()>& deed) {
+  try {
+    deed();
+  } catch (...) {
+    failure_ = std::current_exception();
+    ended_ = true;
+    throw;
+  }
+}
+
 void HeadlessPlatform::fail(const std::string& what) {
-  failure_.emplace(what + where());
+  failure_ = std::make_exception_ptr(Stuck(what + where()));
   ended_ = true;
-  throw Stuck(*failure_);
+  std::rethrow_exception(failure_);
 }
 
 } // namespace cserko

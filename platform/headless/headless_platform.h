@@ -8,6 +8,7 @@
 #include "platform/headless/timer_queue.h"
 
 #include <deque>
+#include <exception>
 #include <random>
 
 namespace cserko {
@@ -52,6 +53,8 @@ class HeadlessPlatform : public Platform {
   int redraws = 0;
   int frames = 0;
   bool processes_fail = false; ///< No program can be started.
+  /// What the registry holds, by key and name.
+  std::map<std::pair<Text, Text>, Text> registry;
 
   // The clock.
 
@@ -121,6 +124,7 @@ class HeadlessPlatform : public Platform {
   const MemoryFiles& files() const { return files_; }
   Text application_folder() const override { return u"c:\\cserko\\"; }
   void start_process(const Text& command_line, ProcessWindow window) override;
+  std::optional<Text> registry_value(const Text& key, const Text& name) const override;
   void message_box(const Text& text) override { messages.push_back(text); }
   void report_error(const Text& text) override;
   void end_process() override { ended_ = true; }
@@ -135,6 +139,7 @@ class HeadlessPlatform : public Platform {
   bool person_acts();
   void wait_for_timer();
   bool fire_until(std::int64_t limit);
+  void let_person(const std::function<void()>& deed);
   [[noreturn]] void fail(const std::string& what);
   std::string where() const;
 
@@ -153,7 +158,7 @@ class HeadlessPlatform : public Platform {
   std::map<Text, std::shared_ptr<const PixelImage>> picture_images_;
   MemoryFiles files_;
   RecordedMedia media_;
-  std::optional<Stuck> failure_;
+  std::exception_ptr failure_;
   bool ended_ = false;
 };
 
