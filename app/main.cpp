@@ -1,0 +1,27 @@
+// The program: joins the real machine with the suite.
+#include "exercises/exercises.h"
+#include "feedback/feedback.h"
+#include "platform/qt/qt_platform.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+  using namespace cserko;
+  const QApplication application(argc, argv);
+  QtPlatform platform;
+  if (!platform.has_pack()) {
+    std::fputs("A Cserkó adatcsomagja hiányzik: nem található sem a program mellett, sem a telepítés mappájában.\n"
+               "The data pack of Cserkó is missing: it lies neither beside the program nor where it was installed.\n",
+               stderr);
+    return 1;
+  }
+  platform.set_window_icon(platform.application_folder() + u"cserko\\cserko-icon.png");
+
+  Session session(platform);
+  install_feedback(session);
+  install_exercises(session);
+  session.Main();
+  return 0;
+}
