@@ -4,7 +4,6 @@
 #include "platform/qt/qt_platform.h"
 
 #include <QApplication>
-
 #include <cstdio>
 
 int main(int argc, char** argv) {
