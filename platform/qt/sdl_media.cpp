@@ -16,8 +16,8 @@ namespace cserko {
 namespace {
 
 /// Of a wave the beginning is enough; a tune is read whole, and a bigger file is none that is meant here.
-constexpr qint64 wave_beginning = 64 * 1024;
-constexpr qint64 longest_tune = 4 * 1024 * 1024;
+constexpr qint64 wave_beginning = 65'536;
+constexpr qint64 longest_tune = 4'194'304;
 
 using Length = std::optional<std::chrono::milliseconds>;
 

@@ -33,7 +33,7 @@ class SdlMedia : public Media {
 
   /// Why there is no sound, or no music, in Hungarian; empty when all is well or nothing is known to be wrong yet. The
   /// device shows within moments after start, the sound font when the first music is opened.
-  std::u16string silence_reason() const;
+  std::u16string silence_reason() const override;
 
  private:
   using Clock = std::chrono::steady_clock;

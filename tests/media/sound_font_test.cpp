@@ -17,7 +17,7 @@ class SoundFont : public testing::Test {
   }
 
   QString add(const QString& name, const QByteArray& kind = "sfbk") const {
-    const QString path = home_.filePath(name);
+    QString path = home_.filePath(name);
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
