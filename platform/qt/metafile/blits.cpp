@@ -61,6 +61,8 @@ bool worth_smoothing(const Axis& x, const Axis& y, const QRect& target) {
   return target.width() <= w && target.height() <= h && (target.width() < w || target.height() < h);
 }
 
+const QRgb* pixels_of(const QImage& image, int row) { return reinterpret_cast<const QRgb*>(image.constScanLine(row)); }
+
 QImage pattern_image(const QBrush& brush, const QColor& background, const QRect& rect) {
   QImage image(rect.size(), QImage::Format_RGB32);
   image.fill(background);
@@ -93,14 +95,19 @@ void Player::blit(Blit blit, const QImage& source) {
   const QRect visible = writable.boundingRect();
   const std::vector<int> columns = x.columns(visible.x() - target.x(), visible.width(), target.width());
   const std::vector<int> rows = y.columns(visible.y() - target.y(), visible.height(), target.height());
+  QImage pattern;
+  if (raster_reads_pattern(blit.operation)) {
+    pattern = pattern_image(painter_brush(state_.brush), state_.background_color, visible);
+  }
   for (const QRect& rect : writable) {
     for (int ty = rect.top(); ty <= rect.bottom() && !budget_.spent(); ++ty) {
-      const auto* from =
-          reinterpret_cast<const QRgb*>(image.constScanLine(rows[static_cast<std::size_t>(ty - visible.top())]));
+      const auto* from = pixels_of(image, rows[static_cast<std::size_t>(ty - visible.top())]);
+      const QRgb* brush = pattern.isNull() ? nullptr : pixels_of(pattern, ty - visible.top());
       auto* to = reinterpret_cast<QRgb*>(canvas_.image().scanLine(ty));
       for (int tx = rect.left(); tx <= rect.right(); ++tx) {
-        const QRgb pixel = from[columns[static_cast<std::size_t>(tx - visible.left())]];
-        to[tx] = raster_operation(blit.operation, 0xFF000000, pixel, to[tx]);
+        const int column = tx - visible.left();
+        const QRgb pixel = from[columns[static_cast<std::size_t>(column)]];
+        to[tx] = raster_operation(blit.operation, brush != nullptr ? brush[column] : 0, pixel, to[tx]);
       }
     }
   }
@@ -125,10 +132,9 @@ void Player::pattern_blit(const QRect& rect, quint8 operation) {
   for (const QRect& part : writable) {
     for (int y = part.top(); y <= part.bottom() && !budget_.spent(); ++y) {
       auto* to = reinterpret_cast<QRgb*>(canvas_.image().scanLine(y));
-      const auto* from = pattern.isNull() ? to + visible.left()
-                                          : reinterpret_cast<const QRgb*>(pattern.constScanLine(y - visible.top()));
+      const QRgb* from = pattern.isNull() ? nullptr : pixels_of(pattern, y - visible.top());
       for (int x = part.left(); x <= part.right(); ++x) {
-        to[x] = raster_operation(operation, from[x - visible.left()], 0xFF000000, to[x]);
+        to[x] = raster_operation(operation, from != nullptr ? from[x - visible.left()] : 0, 0, to[x]);
       }
     }
   }
@@ -154,6 +160,9 @@ void Player::pat_blt(const WmfRecord& r) {
 }
 
 void Player::dib_blit(QByteArrayView dib, const DibPart& part, Blit blit) {
+  if (!raster_reads_source(blit.operation)) {
+    return pattern_blit(pixel_rect(blit.corner, blit.opposite), blit.operation);
+  }
   const int whole = header_rows(dib);
   const bool some_rows = part.rows > 0 && part.rows < whole;
   const std::optional<DibInfo> info = check_dib(dib, part.colors, some_rows ? part.rows : 0);
@@ -200,7 +209,6 @@ void Player::stretch_dib(const WmfRecord& r) {
   const QPointF at(r.s16(10), r.s16(9));
   const QPointF opposite = at + QPointF(r.s16(8), r.s16(7));
   const QRectF source(QPointF(r.s16(6), r.s16(5)), QSizeF(r.s16(4), r.s16(3)));
-  if (r.words() <= kDibWord) return pattern_blit(pixel_rect(map(at), map(opposite)), operation_of(r));
   dib_blit(r.bytes(kDibWord), part, {map(at), map(opposite), source, operation_of(r)});
 }
 

@@ -13,7 +13,7 @@ namespace cserko {
 namespace {
 
 /// Together they stay below a second, with time left for the record that runs when the budget ends.
-constexpr qint64 kMeasureMilliseconds = 150, kPlayMilliseconds = 750;
+constexpr qint64 kMeasureMilliseconds = 120, kPlayMilliseconds = 650;
 constexpr int kMostSide = 8192;
 constexpr qint64 kMostPixels = 40'000'000;
 constexpr double kMostAspect = 64; ///< longer strips are shown as this
@@ -23,7 +23,8 @@ constexpr double kUnknownSide = 512;
 
 /// What the state records say about the page, read ahead of playing.
 struct Survey {
-  std::optional<QSizeF> window, viewport;
+  std::optional<QSizeF> window;
+  std::optional<QSizeF> viewport;     ///< with its signs
   std::optional<QSizeF> drawn_window; ///< window extent in force at the first drawing record
   std::optional<QPointF> viewport_org;
   int map_mode = WmfState::kAnisotropic; ///< likewise
@@ -32,8 +33,10 @@ struct Survey {
 
 std::optional<QSizeF> extent_of(const WmfRecord& r) {
   if (r.words() < 2 || r.s16(0) == 0 || r.s16(1) == 0) return std::nullopt;
-  return QSizeF(std::abs(static_cast<int>(r.s16(1))), std::abs(static_cast<int>(r.s16(0))));
+  return QSizeF(r.s16(1), r.s16(0));
 }
+
+QSizeF absolute(QSizeF size) { return {std::abs(size.width()), std::abs(size.height())}; }
 
 Survey survey(WmfReader reader) {
   Survey result;
@@ -43,8 +46,8 @@ Survey survey(WmfReader reader) {
   for (WmfRecord r; reader.next(r);) {
     if (r.function() == wmf::kSetWindowExt) {
       const auto extent = extent_of(r);
-      if (extent) window = extent;
-      if (!result.window) result.window = extent;
+      if (extent) window = absolute(*extent);
+      if (!result.window) result.window = window;
     } else if (r.function() == wmf::kSetViewportExt) {
       if (!result.viewport) result.viewport = extent_of(r);
     } else if (r.function() == wmf::kSetViewportOrg) {
@@ -119,8 +122,7 @@ std::optional<Metafile> Metafile::parse(const QByteArray& bytes) {
     page.rect = QRectF(QPointF(0, 0), known ? QSizeF(header->box->size()) : QSizeF(1, 1));
     if (known) page.fixed_unit = box_units / fixed;
   } else if (found.viewport) {
-    page.rect = QRectF(found.viewport_org.value_or(QPointF(0, 0)), *found.viewport);
-    page.viewport = *found.viewport;
+    page.rect = QRectF(found.viewport_org.value_or(QPointF(0, 0)), *found.viewport).normalized();
   } else if (found.window) {
     page.rect = QRectF(QPointF(0, 0), *found.window);
   } else if (header->box) {

@@ -131,7 +131,7 @@ void Player::poly_polygon(const WmfRecord& r) {
   Outline outline;
   for (qsizetype i = 0; i < polygons; ++i) {
     const qsizetype count = std::min<qsizetype>(r.u16(1 + i), (r.words() - word) / 2);
-    if (!budget_.take_points(count)) break;
+    if (budget_.spent() || !budget_.take_points(count)) break;
     if (count >= 2) outline.push_back(map_points(r, word, count));
     word += count * 2;
   }
