@@ -74,7 +74,7 @@ std::string leading_track(const std::string& title, int tempo, const Arrangement
 std::string voice_track(const PlayedVoice& voice, int channel, int pan, int end) {
   constexpr int volume_control = 7;
   constexpr int pan_control = 10;
-  constexpr int volume = 96;
+  constexpr int volume = 112;
   std::vector<Event> events = {{0, 0, message(0xB0 | channel, volume_control, volume)},
                                {0, 0, message(0xB0 | channel, pan_control, pan)}};
   for (const InstrumentChange& change : voice.instruments)
