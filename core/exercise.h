@@ -9,6 +9,9 @@ namespace cserko {
 class ExerciseWindow : public Window {
  public:
   void Activate() override;
+  /// Arrow keys move the focus to the nearest control in that direction, so that every exercise can be played without
+  /// a mouse.
+  void KeyDown(KeyEvent& event) override;
 
  protected:
   ExerciseWindow(Session& session, TextView name, Size design, TextView caption);

@@ -11,6 +11,7 @@ namespace {
 
 constexpr TextView text_font = u"Times New Roman";
 constexpr double margin = 120;
+constexpr double smallest_font = 6;
 constexpr double largest_font = 2000;
 
 bool has_place(const Element& element) {
@@ -199,18 +200,35 @@ void gombok_illesztése(Window& window) {
   }
 }
 
+void clear_picture(PictureBox& box) {
+  box.Picture = nullptr;
+  if (box.drawn_canvas() != nullptr) box.canvas().clear();
+}
+
+void fit_wrapped(Label& label, TextView text) {
+  const Platform& platform = label.window().platform();
+  label.set_caption(text);
+  label.Font.name = text_font;
+  label.Font.size = smallest_font;
+  const auto fits = [&](double size) {
+    Font font = label.Font;
+    font.size = size;
+    const Size extent = platform.measure_wrapped(font, text, label.Width);
+    return extent.width <= label.Width && extent.height <= label.Height;
+  };
+  while (label.Font.size < largest_font && fits(label.Font.size + 1)) label.Font.size += 1;
+}
+
 void show_record_picture(Session& session, PictureBox& box, int index) {
   const KépAdat& record = session.képek[index];
+  clear_picture(box);
   box.Picture = session.platform().load_picture(record.wmf);
   if (!box.Picture) draw_placeholder(box, record.név);
 }
 
 void kép_rajzolás(Session& session, PictureBox& box, int index, const Caption& caption) {
-  box.canvas().clear();
-  if (index == -1) {
-    box.Picture = nullptr;
-    return;
-  }
+  clear_picture(box);
+  if (index == -1) return;
   const KépAdat& record = session.képek[index];
   show_record_picture(session, box, index);
   print_name(box, caption.angol ? record.angol : caption.szótagolt ? record.szótagolt : record.név, caption.körvonalas);

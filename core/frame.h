@@ -40,6 +40,12 @@ void kép_rajzolás(Session& session, PictureBox& box, int index, const Caption&
 /// Shows a record's picture in a box; where it has none that can be drawn, a neutral placeholder with the name.
 void show_record_picture(Session& session, PictureBox& box, int index);
 
+/// Takes picture and drawing out of a box.
+void clear_picture(PictureBox& box);
+
+/// Shows a text in a label, wrapped, in the largest size up to the label's height at which it fits its place.
+void fit_wrapped(Label& label, TextView text);
+
 /// Opens a page of the help in the viewer, maximised. Throws std::runtime_error where the viewer cannot be started.
 void súgó_megnyitás(Session& session, TextView page);
 

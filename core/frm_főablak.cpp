@@ -128,7 +128,6 @@ void frm_főablak::dísz_click() {
 void frm_főablak::új_kép() {
   if (session_.képek.képszám == 0) return;
   const int index = random_below(platform(), session_.képek.képszám);
-  dísz.canvas().clear();
   show_record_picture(session_, dísz, index);
   lbldisz.Caption = session_.képek[index].név;
   cserko::Font font = lbldisz.Font;

@@ -68,15 +68,17 @@ int Records::szótagszám(int index) const {
   return 1 + static_cast<int>(std::count(syllables.begin(), syllables.end(), u'-'));
 }
 
-int Records::draw(Platform& platform, const Filter& passes, TextView advice) const {
+int Records::draw(Platform& platform, const Filter& passes, TextView advice, Reach reach) const {
+  const bool with_last = reach == Reach::WithLast;
   for (int fruitless = 0;; ++fruitless) {
     if (fruitless == fruitless_draws) {
       int candidate = 0;
+      const int end = with_last ? képszám + 1 : képszám;
       while (!passes(candidate)) {
-        if (++candidate >= képszám) throw NothingFits(advice);
+        if (++candidate >= end) throw NothingFits(advice);
       }
     }
-    const int index = random_below(platform, képszám);
+    const int index = with_last ? rounded(platform.random() * képszám) : random_below(platform, képszám);
     if (passes(index)) return index;
   }
 }

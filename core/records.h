@@ -21,6 +21,10 @@ struct KépAdat {
 
 class Records {
  public:
+  /// How a draw makes an index of a random number: cut off, so that the last record is never drawn, or rounded, so that
+  /// it is, and both ends have half the chance.
+  enum class Reach : std::uint8_t { WithoutLast, WithLast };
+
   /// What `draw` asks of a record, by its index.
   using Filter = std::function<bool(int index)>;
 
@@ -45,10 +49,11 @@ class Records {
   /// no record.
   int szótagszám(int index) const;
 
-  /// Draws indexes until one passes: each draw takes one random number, and the last record is never drawn, which is
-  /// intended. Throws NothingFits with the advice (a Hungarian sentence) if no record can pass. The filter must give
-  /// the same answer for the same index as long as the draw lasts.
-  int draw(Platform& platform, const Filter& passes, TextView advice = general_advice) const;
+  /// Draws indexes until one passes: each draw takes one random number, and the last record is not drawn unless asked
+  /// for, which is intended. Throws NothingFits with the advice (a Hungarian sentence) if no record can pass. The
+  /// filter must give the same answer for the same index as long as the draw lasts.
+  int draw(Platform& platform, const Filter& passes, TextView advice = general_advice,
+           Reach reach = Reach::WithoutLast) const;
 
   static constexpr TextView general_advice =
       u"A mostani beállításokhoz egyetlen szó sem illik. Kérlek, engedj a beállításokon!";

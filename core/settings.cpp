@@ -28,6 +28,10 @@ void read_number(UpDown& updown, int number) {
   if (updown.clamped(number) == number) updown.set_value(number);
 }
 
+void read_number(ScrollBar& bar, int number) {
+  if (number >= bar.Min && number <= bar.Max) bar.set_value(number);
+}
+
 void read_number(CheckBox& box, int number) {
   if (number >= 0 && number <= 2) box.set_value(number);
 }
@@ -76,6 +80,7 @@ SettingsWriter write_fields(const std::vector<SettingsField>& fields) {
   for (const SettingsField& field : fields) {
     std::visit(Overloaded{[&](const UpDown* updown) { writer.number(updown->value()); },
                           [&](const CheckBox* box) { writer.number(box->value()); },
+                          [&](const ScrollBar* bar) { writer.number(bar->value()); },
                           [&](const OptionButton* option) { writer.word(option->value()); }},
                field);
   }
@@ -91,6 +96,7 @@ void read_fields(const std::vector<SettingsField>& fields, std::string_view byte
       if (const auto number = number_in(line)) read_number(*control, *number);
     };
     std::visit(Overloaded{[&](UpDown* updown) { take_number(updown); }, [&](CheckBox* box) { take_number(box); },
+                          [&](ScrollBar* bar) { take_number(bar); },
                           [&](OptionButton* option) {
                             if (const auto word = word_in(line)) option->set_value(*word);
                           }},
@@ -123,10 +129,18 @@ void SettingsDialog::QueryUnload(bool& keep) {
   cancel();
 }
 
-void SettingsDialog::read() {
+std::optional<Text> SettingsDialog::file_to_read() const {
   const Files& files = platform().files();
-  const bool own = factory_file_.empty() || files.exists(file_);
-  if (const auto bytes = files.read(own ? file_ : session_.alapkönyvtár + factory_file_)) read_fields(fields_, *bytes);
+  for (const Text& path : {own_file(), factory_file()}) {
+    if (!path.empty() && files.exists(path)) return path;
+  }
+  return std::nullopt;
+}
+
+void SettingsDialog::read() {
+  const auto path = file_to_read();
+  if (!path) return;
+  if (const auto bytes = platform().files().read(*path)) read_fields(fields_, *bytes);
 }
 
 void SettingsDialog::write() { write_settings(platform(), file_, write_fields(fields_)); }

@@ -25,7 +25,7 @@ class SettingsWriter {
 void write_settings(Platform& platform, const Text& path, const SettingsWriter& content);
 
 /// A control whose value is one line of the file.
-using SettingsField = std::variant<UpDown*, CheckBox*, OptionButton*>;
+using SettingsField = std::variant<UpDown*, CheckBox*, OptionButton*, ScrollBar*>;
 
 /// The values of a dialog's controls as the lines of its file, in the order of the fields.
 SettingsWriter write_fields(const std::vector<SettingsField>& fields);
@@ -60,6 +60,8 @@ class SettingsDialog : public Window {
 
   /// Reads the file into the controls; a missing file leaves them as they are.
   void read();
+  /// The file that `read` opens, none if there is none: the user's own, else the factory's.
+  virtual std::optional<Text> file_to_read() const;
   /// Writes the controls into the file.
   void write();
 
@@ -69,6 +71,10 @@ class SettingsDialog : public Window {
   void cancel();
   /// What OK does with the running exercise.
   virtual void apply() {}
+
+  /// Full path of the user's own file, and of the factory's, empty if it has none.
+  const Text& own_file() const { return file_; }
+  Text factory_file() const { return factory_file_.empty() ? Text() : session_.alapkönyvtár + factory_file_; }
 
  private:
   Session& session_;

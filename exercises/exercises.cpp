@@ -1,6 +1,10 @@
 #include "exercises/exercises.h"
 
+#include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_cserkó.h"
+#include "exercises/sentences/frm_igazhamis.h"
+#include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/syllables/frm_szótagoló.h"
 
 namespace cserko {
 

@@ -38,6 +38,7 @@ template<class T> class ElementArray {
   std::function<void(int, const MouseEvent&)> MouseMove;
   std::function<void(int, const MouseEvent&)> MouseUp;
   std::function<void(int)> GotFocus;
+  std::function<void(int, KeyEvent&)> KeyDown;
 
   /// The element of that index. Throws std::out_of_range if it is not loaded.
   T& operator[](int index) { return *elements_.at(index); }
@@ -51,15 +52,7 @@ template<class T> class ElementArray {
     if (loaded(index)) throw InvalidValue("element array: the index is loaded already");
     const T& design = *elements_.at(first_);
     T& element = add(index, {design.Left, design.Top, design.Width, design.Height});
-    element.Caption = design.Caption;
-    element.Tag = design.Tag;
-    element.Font = design.Font;
-    element.ForeColor = design.ForeColor;
-    element.BackColor = design.BackColor;
-    element.Opaque = design.Opaque;
-    element.Border = design.Border;
-    element.Enabled = design.Enabled;
-    element.TabStop = design.TabStop;
+    element.copy_design(design);
     element.Visible = false;
     return element;
   }
@@ -74,6 +67,17 @@ template<class T> class ElementArray {
     element.Caption = caption;
     element.Visible = true;
     return element;
+  }
+
+  /// Puts the design element and further ones like it, visible, at the given left top corners, in order of index.
+  void design_places(std::initializer_list<Point> places) {
+    int index = first_;
+    for (const Point place : places) {
+      T& element = loaded(index) ? (*this)[index] : load(index);
+      element.move_to(place.x, place.y);
+      element.Visible = true;
+      ++index;
+    }
   }
 
   /// Takes an element away. The design element stays: throws InvalidValue.
@@ -116,6 +120,9 @@ template<class T> class ElementArray {
     };
     element->GotFocus = [this, index] {
       if (GotFocus) GotFocus(index);
+    };
+    element->KeyDown = [this, index](KeyEvent& event) {
+      if (KeyDown) KeyDown(index, event);
     };
     return *(elements_[index] = std::move(element));
   }

@@ -83,6 +83,8 @@ bool Element::usable() const { return Enabled && (container_ == nullptr || conta
 
 bool Element::focusable() const {
   switch (kind_) {
+  case ElementKind::Label:
+    return static_cast<const Label*>(this)->Choosable;
   case ElementKind::PictureBox:
   case ElementKind::Button:
   case ElementKind::CheckBox:
@@ -107,6 +109,18 @@ void Element::move_to(double left, double top) {
   Top = top;
 }
 
+void Element::copy_design(const Element& design) {
+  Caption = design.Caption;
+  Tag = design.Tag;
+  Font = design.Font;
+  ForeColor = design.ForeColor;
+  BackColor = design.BackColor;
+  Opaque = design.Opaque;
+  Border = design.Border;
+  Enabled = design.Enabled;
+  TabStop = design.TabStop;
+}
+
 Label::Label(Parent parent, TextView name, Rect place, TextView caption)
     : Element(ElementKind::Label, parent, name, place, caption) {}
 
@@ -114,6 +128,13 @@ void Label::set_caption(TextView caption) {
   if (Caption == caption) return;
   Caption = caption;
   if (Change) Change();
+}
+
+void Label::copy_design(const Label& design) {
+  Element::copy_design(design);
+  Choosable = design.Choosable;
+  WordWrap = design.WordWrap;
+  Centered = design.Centered;
 }
 
 PictureBox::PictureBox(Parent parent, TextView name, Rect place)
@@ -179,11 +200,13 @@ UpDown::UpDown(Parent parent, TextView name, Rect place, TextBox& buddy, Range r
 
 int UpDown::clamped(int value) const { return std::max(Min, std::min(Max, value)); }
 
+void UpDown::show_value() { Buddy.set_text(Format ? Format(value_) : to_text(value_)); }
+
 void UpDown::set_value(int value) {
   if (value < Min || value > Max) throw InvalidValue("up-down: the value is outside its range");
   const bool changed = value_ != value;
   value_ = value;
-  Buddy.set_text(to_text(value));
+  show_value();
   if (changed && Change) Change();
 }
 

@@ -216,6 +216,8 @@ class Element {
   Point position_in_window() const;
   /// Moves it in one operation, twips.
   void move_to(double left, double top);
+  /// Takes over what an element of an array has of its design: text, tag, look, but not place and visibility.
+  void copy_design(const Element& design);
 
  private:
   ElementKind kind_;
@@ -228,12 +230,14 @@ class Label : public Element {
  public:
   Label(Parent parent, TextView name, Rect place, TextView caption = {});
 
+  bool Choosable = false; ///< Takes the keyboard focus; the space bar clicks it, as it does a picture box.
   bool WordWrap = true;
   bool Centered = true; ///< Horizontally; vertically a label is always centred on its place.
   std::function<void()> Change;
 
   /// Sets the caption and, where that changes it, runs `Change`.
   void set_caption(TextView caption);
+  void copy_design(const Label& design);
 };
 
 class PictureBox : public Element {
@@ -323,6 +327,9 @@ class UpDown : public Element {
   int Increment;
   TextBox& Buddy;
   std::function<void()> Change;
+  std::function<Text(int)> Format; ///< How the buddy shows the number; as decimal digits where it is not set.
+  /// Writes the number into the buddy.
+  void show_value();
 
  private:
   int value_;

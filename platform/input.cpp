@@ -98,16 +98,27 @@ bool choose_by_mnemonic(Window& window, const KeyEvent& event) {
   return false;
 }
 
+bool is_default(const Button& button) { return button.Default; }
+
 bool press_default(Window& window, const KeyEvent& event, const Element* focused) {
   const bool on_button = focused != nullptr && focused->kind() == ElementKind::Button;
   Button* button = nullptr;
   if (event.code == key::enter && !on_button) {
-    button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Default; });
+    button = first<Button>(window, ElementKind::Button, is_default);
   } else if (event.code == key::escape) {
     button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Cancel; });
   }
   if (button == nullptr) return false;
   press(*button);
+  return true;
+}
+
+// The space bar clicks what can be chosen, and so does Enter unless it belongs to the window's default button.
+bool choose_by_key(Element& element, const KeyEvent& event) {
+  const bool enter =
+      event.code == key::enter && first<Button>(element.window(), ElementKind::Button, is_default) == nullptr;
+  if (!element.Click || !(event.code == key::space || enter)) return false;
+  press(element);
   return true;
 }
 
@@ -131,6 +142,9 @@ bool move_among_options(OptionButton& option, int code) {
 // What the focused control does with a key by itself. Returns whether it has used it.
 bool control_key(Element& element, const KeyEvent& event) {
   switch (element.kind()) {
+  case ElementKind::Label:
+  case ElementKind::PictureBox:
+    return choose_by_key(element, event);
   case ElementKind::Button:
     if (event.code != key::enter && event.code != key::space) return false;
     press(element);

@@ -112,8 +112,7 @@ void frm_cserkó::feladat_törlése() {
   betű.unload_from(1);
   betű[0].Caption.clear();
   betű[0].Visible = false;
-  kép.Picture = nullptr;
-  kép.canvas().clear();
+  clear_picture(kép);
   lbl_megoldás.Visible = false;
   for (Button* button : {&cmd_kész, &cmd_egybetűtfelfed, &cmd_újrakever, &cmd_rendez}) button->Visible = true;
 }
@@ -135,7 +134,6 @@ void frm_cserkó::betűk_szétszórása(const Text& word) {
   const int letters = text.MAGYARBETŰKSZÁMA();
   for (int i = 0; i < letters; ++i) {
     Label& letter = i == 0 ? betű[0] : betű.load(i);
-    letter.WordWrap = false;
     letter.Caption = text.szóbetűje(i + 1);
     const Size extent = platform().measure(kép.Font, letter.Caption);
     letter.Width = extent.width;
