@@ -15,7 +15,7 @@ std::string build(const std::filesystem::path& pack, const std::filesystem::path
   std::ifstream stream(path);
   if (!stream) throw TuneError("cannot be read");
   const Tune tune = read_tune(stream);
-  const std::string name = path.stem().string() + ".mid";
+  std::string name = path.stem().string() + ".mid";
   write_pack_file(pack, "dysmid/" + name, midi_file(tune.title, tune.tempo, arrange(tune)));
   return name;
 }
@@ -29,9 +29,12 @@ int main(int argc, char** argv) {
   }
   const std::filesystem::path pack = argv[1];
   std::string playlist = number_line(0); // silent until the user asks for music
+  std::set<std::string> names;
   for (int i = 2; i < argc; ++i) {
     try {
-      playlist += text_line(build(pack, argv[i]));
+      const std::string name = build(pack, argv[i]);
+      playlist += text_line(name);
+      names.insert(name);
     } catch (const std::exception& error) {
       std::cerr << "tune-builder: " << argv[i] << ": " << error.what() << '\n';
       return 1;
@@ -39,6 +42,7 @@ int main(int argc, char** argv) {
   }
   try {
     write_pack_file(pack, "cserko/zenebeáll.ini", playlist);
+    remove_other_files(pack, "dysmid", ".mid", names);
   } catch (const std::exception& error) {
     std::cerr << "tune-builder: " << error.what() << '\n';
     return 1;

@@ -9,6 +9,7 @@
 #include <fluidsynth.h>
 #include <fstream>
 #include <iostream>
+#include <map>
 
 namespace {
 
@@ -40,6 +41,13 @@ void build(const std::filesystem::path& table, const std::filesystem::path& soun
     write_pack_file(pack, path_in_pack(sound), wave_file(samples));
   }
   write_lists(sounds, pack);
+  std::map<std::string, std::set<std::string>> folders;
+  for (const Sound& sound : sounds) {
+    const std::filesystem::path path = path_in_pack(sound);
+    folders[path.parent_path().string()].insert(path.filename().string());
+  }
+  for (const auto& [folder, names] : folders)
+    if (!folder.empty()) remove_other_files(pack, folder, ".wav", names);
 }
 
 } // namespace

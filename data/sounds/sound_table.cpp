@@ -103,7 +103,7 @@ std::vector<Sound> read_sound_table(std::istream& table) {
 }
 
 std::string path_in_pack(const Sound& sound) {
-  const std::string file = sound.name + ".wav";
+  std::string file = sound.name + ".wav";
   switch (sound.role) {
   case SoundRole::Silence:
     return file;
