@@ -16,6 +16,9 @@ void require(bool condition) {
 
 } // namespace
 
+/// The system's font library keeps its lists until the process ends.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig\n"; }
+
 extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
   // Text needs fonts. The application lives as long as the process.
   qputenv("QT_QPA_PLATFORM", "offscreen");

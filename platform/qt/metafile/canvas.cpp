@@ -98,8 +98,14 @@ void WmfCanvas::set_clip(const QRegion& clip, bool clipped) {
   if (measuring() || (clipped == clipped_ && (!clipped || clip == clip_))) return;
   clip_ = clip;
   clipped_ = clipped;
-  if (clipped) {
-    painter_->setClipRegion(clip);
+  clip_changed_ = true;
+}
+
+void WmfCanvas::apply_clip() {
+  if (!clip_changed_) return;
+  clip_changed_ = false;
+  if (clipped_) {
+    painter_->setClipRegion(clip_);
   } else {
     painter_->setClipping(false);
   }
@@ -145,6 +151,7 @@ QBrush WmfCanvas::mixed(const QBrush& brush) const {
 
 bool WmfCanvas::apply_mix() {
   if (mix_ == kMixNop) return false;
+  apply_clip();
   const QPainter::CompositionMode mode = composition(mix_);
   painter_->setCompositionMode(mode);
   // Raster operations combine whole pixels; there is no half of an exclusive or.
@@ -239,6 +246,7 @@ void WmfCanvas::fill_pixels(const QRect& rect, const QBrush& brush) {
   if (brush.style() == Qt::NoBrush) return;
   note(rect);
   if (measuring()) return;
+  apply_clip();
   painter_->setCompositionMode(QPainter::CompositionMode_SourceOver);
   painter_->setRenderHint(QPainter::Antialiasing, false);
   painter_->fillRect(rect & area_, brush);

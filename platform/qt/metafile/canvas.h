@@ -33,7 +33,7 @@ class WmfBudget {
 
   QElapsedTimer timer_;
   qint64 milliseconds_;
-  qsizetype points_ = 4'000'000;
+  qsizetype points_ = 1'000'000;
   qsizetype clips_ = 10'000;
   qsizetype pixels_ = 32'000'000; ///< of bitmaps, decoded
 };
@@ -66,6 +66,8 @@ class WmfCanvas {
   QImage& image() { return *image_; }
 
  private:
+  /// Many clips may follow each other before anything is drawn; the painter is told of the last one only.
+  void apply_clip();
   /// Sets up the painter for the mix; false when it leaves the picture as it is.
   bool apply_mix();
   QColor mixed(const QColor& color) const;
@@ -79,6 +81,7 @@ class WmfCanvas {
   QRect area_;
   QRegion clip_;
   bool clipped_ = false;
+  bool clip_changed_ = false;
   int mix_ = 13;
   bool smooth_ = true;
   QRectF bounds_;

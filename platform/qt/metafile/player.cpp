@@ -391,7 +391,9 @@ void Player::exclude_clip_rect(const WmfRecord& r) {
   if (!budget_.take_clip() || (state_.clipped && state_.clip.rectCount() > kMostRects)) return;
   const QRectF box = map_box(r, 0);
   if (!state_.clipped) state_.clip = canvas_.area();
-  intersect_clip(state_.clip - pixel_rect(box.topLeft(), box.bottomRight()));
+  state_.clip -= pixel_rect(box.topLeft(), box.bottomRight());
+  state_.clipped = true;
+  update_clip();
 }
 
 void Player::offset_clip_region(const WmfRecord& r) {
