@@ -8,7 +8,10 @@ namespace cserko {
 namespace {
 
 // No drawing reaches further; places beyond, and those that are no number, count as this far away.
-constexpr int furthest = 100000;
+constexpr int furthest = 20000;
+
+// The thickest line, in pixels.
+constexpr int thickest = 100;
 
 int pixel(double twips) {
   const double pixels = std::floor(twips / twips_per_pixel);
@@ -175,14 +178,14 @@ void RecordedCanvas::rasterize_picture(const Drawing& drawing) const {
   const int top = pixel(place.top);
   const int width = std::max(1, pixel(place.width));
   const int height = std::max(1, pixel(place.height));
-  for (int y = 0; y < height; ++y) {
-    for (int x = 0; x < width; ++x)
+  for (int y = std::max(0, -top); y < std::min(height, raster_.height - top); ++y) {
+    for (int x = std::max(0, -left); x < std::min(width, raster_.width - left); ++x)
       put(left + x, top + y, image.pixels[offset(image, x * image.width / width, y * image.height / height)]);
   }
 }
 
 void RecordedCanvas::rasterize_line(Point from, Point to, Color color, double width) const {
-  const int brush = std::clamp(pixel(width + twips_per_pixel / 2), 1, 1000);
+  const int brush = std::clamp(pixel(width + twips_per_pixel / 2), 1, thickest);
   const int x0 = pixel(from.x);
   const int y0 = pixel(from.y);
   const int dx = pixel(to.x) - x0;
@@ -191,7 +194,7 @@ void RecordedCanvas::rasterize_line(Point from, Point to, Color color, double wi
   for (int i = 0; i <= steps; ++i) {
     const int x = x0 + static_cast<int>(std::lround(static_cast<double>(dx) * i / steps)) - brush / 2;
     const int y = y0 + static_cast<int>(std::lround(static_cast<double>(dy) * i / steps)) - brush / 2;
-    for (int bit = 0; bit < brush * brush; ++bit) put(x + bit % brush, y + bit / brush, color);
+    fill_pixels(x, y, x + brush, y + brush, color);
   }
 }
 
@@ -207,10 +210,13 @@ void RecordedCanvas::rasterize_ellipse(const Drawing& drawing) const {
 }
 
 void RecordedCanvas::fill(Rect place, Color color) const {
-  const int right = std::min(raster_.width, pixel(place.left + place.width - 1) + 1);
-  const int bottom = std::min(raster_.height, pixel(place.top + place.height - 1) + 1);
-  for (int y = std::max(0, pixel(place.top)); y < bottom; ++y) {
-    for (int x = std::max(0, pixel(place.left)); x < right; ++x) put(x, y, color);
+  fill_pixels(pixel(place.left), pixel(place.top), pixel(place.left + place.width - 1) + 1,
+              pixel(place.top + place.height - 1) + 1, color);
+}
+
+void RecordedCanvas::fill_pixels(int left, int top, int right, int bottom, Color color) const {
+  for (int y = std::max(0, top); y < std::min(raster_.height, bottom); ++y) {
+    for (int x = std::max(0, left); x < std::min(raster_.width, right); ++x) put(x, y, color);
   }
 }
 

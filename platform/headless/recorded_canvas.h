@@ -73,6 +73,7 @@ class RecordedCanvas : public Canvas {
   void rasterize_line(Point from, Point to, Color color, double width) const;
   void rasterize_ellipse(const Drawing& drawing) const;
   void fill(Rect place, Color color) const;
+  void fill_pixels(int left, int top, int right, int bottom, Color color) const;
   void put(int x, int y, Color color) const;
 
   Size size_;
