@@ -12,7 +12,8 @@ class LineDrawing {
 
   /// Starts anew with a random figure.
   void start();
-  /// Draws one step into the box. A change of figure by the drawing itself clears the box.
+  /// Draws one step into the box. A change of figure by the drawing itself comes after the white pass, in which the old
+  /// figure has gone, and clears nothing.
   void tick(PictureBox& dísz);
   /// Takes a random figure and clears the box.
   void choose_figure(PictureBox& dísz);
@@ -29,6 +30,7 @@ class LineDrawing {
   static constexpr int figures = 9;
 
  private:
+  void take_figure(PictureBox& dísz);
   void draw(PictureBox& dísz);
   void string_art(Canvas& canvas) const;
   void ellipses(Canvas& canvas) const;
