@@ -1,0 +1,1 @@
+#include "tests/suite/suite_fixture.h"

@@ -1,0 +1,251 @@
+// From the start of the program to its end: what is prepared in which order, and the two ways out.
+#include "core/frm_főablak.h"
+#include "core/frm_referencia.h"
+#include "feedback/frm_hangbeáll.h"
+#include "feedback/frm_zenebeáll.h"
+#include "tests/suite/suite_fixture.h"
+
+namespace cserko {
+namespace {
+
+using Diary = std::vector<std::string>;
+
+class MainTest : public SuiteTest {
+ protected:
+  MainTest() {
+    put_words({u"alma", u"körte", u"szilva"});
+    put_app_file(u"dysmid\\a.mid");
+    assemble();
+  }
+
+  void with_graphic_window() { session().offer<GraphicWindow>(u"frm_grafikus_főablak"); }
+  void then_leave() {
+    then([](Window& window) { hand::key(window, key::escape); });
+  }
+  void then_close() {
+    then([](Window& window) { hand::close(window); });
+  }
+  bool work_file_exists() { return machine.files().exists(Text(user_folder) + u"temp.bmp"); }
+};
+
+TEST_F(MainTest, ApplicationFolderHasATrailingBackslash) { EXPECT_EQ(utf8(session().alapkönyvtár), "c:\\cserko\\"); }
+
+TEST_F(MainTest, StartsWithFiveGamesToTheReward) {
+  session().játékszámláló = -3;
+  then_leave();
+  session().Main();
+  EXPECT_EQ(session().játékszámláló, 5);
+}
+
+TEST_F(MainTest, PreparesEverythingInOrderBeforeTheMainWindow) {
+  then_leave();
+  session().Main();
+  Diary diary = machine.diary({"seed", "open", "play", "close", "load frm_hang", "load frm_zene", "load FrmFolyamat",
+                               "show FrmFolyamat", "unload FrmFolyamat", "modal"});
+  diary.resize(std::min<std::size_t>(diary.size(), 11));
+  EXPECT_EQ(diary, (Diary{"seed", "open \"c:\\cserko\\null.wav\" type waveaudio alias hang", "play hang ",
+                          "load frm_hangbeáll", "close hang",
+                          "open \"c:\\cserko\\cserko\\clack 1.wav\" type waveaudio alias hang", "play hang ",
+                          "load frm_zenebeáll", "load FrmFolyamat", "show FrmFolyamat", "unload FrmFolyamat"}));
+}
+
+TEST_F(MainTest, NoClickAtTheStartWhenItIsTurnedOff) {
+  put_app_file(u"cserko\\grathang.ini", u" 1 \r\n 1 \r\n 1 \r\n 1 \r\n 0 \r\n");
+  then([this](Window& window) {
+    EXPECT_EQ(commands(), "open \"c:\\cserko\\null.wav\" type waveaudio alias hang\nplay hang \n");
+    hand::key(window, key::escape);
+  });
+  session().Main();
+}
+
+TEST_F(MainTest, WithMusicTurnedOffNoMidiAliasIsEverOpened) {
+  put_settings(u"zenebeáll.ini", {u" 0 ", u"a.mid"});
+  then([this](Window& window) {
+    EXPECT_FALSE(load<frm_referencia>().Timer_zene.Enabled);
+    machine.advance(5000);
+    hand::key(window, key::escape);
+  });
+  session().Main();
+  EXPECT_EQ(commands().find("midi"), std::string::npos);
+}
+
+TEST_F(MainTest, WithMusicAllowedTheFirstTitleStartsWithinASecondOfTheMainWindow) {
+  put_settings(u"zenebeáll.ini", {u" 1 ", u"a.mid"});
+  then([this](Window& window) {
+    EXPECT_TRUE(load<frm_referencia>().Timer_zene.Enabled);
+    machine.advance(1100);
+    EXPECT_EQ(machine.media().mode(MediaAlias::Midi), MediaMode::Playing);
+    hand::key(window, key::escape);
+  });
+  session().Main();
+}
+
+TEST_F(MainTest, TheReferenceWindowIsNeverShownAndCarriesTheFontName) {
+  then_leave();
+  session().Main();
+  EXPECT_EQ(utf8(load<frm_referencia>().Font.name), "Times New Roman CE");
+  EXPECT_EQ(machine.count("show frm_referencia") + machine.count("modal frm_referencia"), 0);
+}
+
+TEST_F(MainTest, RecordsAreLoadedOnceAndTheProgressWindowIsGone) {
+  then_leave();
+  session().Main();
+  EXPECT_EQ(session().képek.képszám, 2);
+  EXPECT_EQ(machine.count("load FrmFolyamat"), 1);
+}
+
+TEST_F(MainTest, TheProgressWindowIsCentredOnTheScreenAndRedrawnForEachRecord) {
+  struct Watcher : HeadlessPlatform {
+    void redraw(Window& window) override {
+      HeadlessPlatform::redraw(window);
+      if (window.Name != u"FrmFolyamat") return;
+      caption = to_utf8(window.Caption);
+      center = {window.Left + window.Width / 2, window.Top + window.Height / 2};
+      ++times;
+    }
+    std::string caption;
+    Point center;
+    int times = 0;
+  } watcher;
+  for (int i = 1; i <= 3; ++i) watcher.files().put(Text(app) + u"kepek\\" + to_text(i) + u".wms", "1\r\nalma");
+  Session session(watcher);
+  install_feedback(session);
+  session.képadatok_betöltése();
+  EXPECT_EQ(watcher.caption, "Adatfeldolgozás...");
+  EXPECT_EQ(watcher.center, (Point{1280 * 15 / 2.0, 1024 * 15 / 2.0}));
+  EXPECT_EQ(watcher.times, 1 + 3);
+}
+
+TEST_F(MainTest, LeavingTheTextWindowEndsTheProcessWithoutTheLauncher) {
+  then_leave();
+  session().Main();
+  EXPECT_TRUE(machine.ended());
+  EXPECT_TRUE(machine.processes.empty());
+  EXPECT_EQ(machine.count("end"), 1);
+}
+
+TEST_F(MainTest, ClosingTheGraphicWindowGoesBackToTheLauncher) {
+  with_graphic_window();
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  then_close();
+  session().Main();
+  ASSERT_EQ(machine.processes.size(), 1U);
+  EXPECT_EQ(utf8(machine.processes[0].command_line), "c:\\cserko\\portál.exe klki");
+  EXPECT_EQ(machine.processes[0].window, ProcessWindow::Normal);
+  EXPECT_TRUE(machine.ended());
+  EXPECT_EQ(machine.count("modal frm_főablak"), 0);
+}
+
+TEST_F(MainTest, TheGraphicExitClosesSoundAndMusicBeforeTheLauncherStarts) {
+  with_graphic_window();
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  put_settings(u"zenebeáll.ini", {u" 1 ", u"a.mid"});
+  then([this](Window& window) {
+    machine.advance(1100);
+    hand::close(window);
+  });
+  session().Main();
+  const Diary diary = machine.diary({"close", "start", "end"});
+  ASSERT_GE(diary.size(), 4U);
+  EXPECT_EQ(Diary(diary.end() - 4, diary.end()),
+            (Diary{"close hang", "close midi", "start c:\\cserko\\portál.exe klki", "end"}));
+}
+
+TEST_F(MainTest, AMissingLauncherIsReportedAndTheProgramEndsAllTheSame) {
+  with_graphic_window();
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  machine.processes_fail = true;
+  then_close();
+  session().Main();
+  expected_errors = 1;
+  EXPECT_TRUE(machine.ended());
+}
+
+TEST_F(MainTest, AStaleWorkFileStaysUntilTheTextWindowIsLeft) {
+  machine.files().put(Text(user_folder) + u"temp.bmp", "old");
+  then([this](Window& window) {
+    EXPECT_TRUE(work_file_exists());
+    hand::key(window, key::escape);
+  });
+  session().Main();
+  EXPECT_FALSE(work_file_exists());
+}
+
+TEST_F(MainTest, AStaleWorkFileStaysUntilTheGraphicWindowIsLeft) {
+  with_graphic_window();
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  machine.files().put(Text(user_folder) + u"temp.bmp", "old");
+  then([this](Window& window) {
+    EXPECT_TRUE(work_file_exists());
+    hand::close(window);
+  });
+  session().Main();
+  EXPECT_FALSE(work_file_exists());
+}
+
+TEST_F(MainTest, AWorkFileThatCannotBeDeletedDoesNotKeepTheProgram) {
+  machine.files().put(Text(user_folder) + u"temp.bmp", "old");
+  machine.files().make_unwritable(Text(user_folder) + u"temp.bmp");
+  then_leave();
+  session().Main();
+  EXPECT_TRUE(machine.ended());
+}
+
+TEST_F(MainTest, UntickingTheGraphicOptionBringsTheTextWindowWithoutANewStart) {
+  with_graphic_window();
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  then([this](Window& window) {
+    load<frm_főablak_beállítások>().chk_grafikus_főablak.set_value(0);
+    hand::close(window);
+  });
+  then_leave();
+  session().Main();
+  EXPECT_EQ(machine.diary({"modal", "end"}), (Diary{"modal frm_grafikus_főablak", "modal frm_főablak", "end"}));
+  EXPECT_EQ(machine.count("load FrmFolyamat"), 1);
+  EXPECT_TRUE(machine.processes.empty());
+}
+
+TEST_F(MainTest, TickingTheGraphicOptionBringsTheGraphicWindowAndUntickingTheTextWindowAgain) {
+  with_graphic_window();
+  then_in<frm_főablak>([](frm_főablak& window) {
+    hand::click(window.mnu_fájl_főablak_beállításai);
+    EXPECT_TRUE(window.visible());
+    hand::key(window, key::escape);
+  });
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  then([this](Window& window) {
+    EXPECT_FALSE(load<frm_főablak>().visible());
+    load<frm_főablak_beállítások>().chk_grafikus_főablak.set_value(0);
+    hand::close(window);
+  });
+  session().Main();
+  EXPECT_EQ(machine.diary({"modal", "end"}),
+            (Diary{"modal frm_főablak", "modal frm_főablak_beállítások", "modal frm_grafikus_főablak", "end"}));
+  EXPECT_EQ(machine.count("load FrmFolyamat"), 1);
+}
+
+TEST_F(MainTest, ClosingTheGraphicWindowThatTheTextWindowOpenedEndsWithoutTheLauncher) {
+  with_graphic_window();
+  then_in<frm_főablak>([](frm_főablak& window) { hand::click(window.mnu_fájl_főablak_beállításai); });
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  then_close();
+  session().Main();
+  EXPECT_TRUE(machine.ended());
+  EXPECT_TRUE(machine.processes.empty());
+}
+
+TEST_F(MainTest, WithoutAGraphicWindowTheOptionIsOfNoEffect) {
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  then_leave();
+  session().Main();
+  EXPECT_EQ(machine.count("modal frm_főablak"), 1);
+}
+
+} // namespace
+} // namespace cserko

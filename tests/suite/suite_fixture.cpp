@@ -1,0 +1,153 @@
+#include "tests/suite/suite_fixture.h"
+
+#include "core/codepage.h"
+#include "feedback/message_panels.h"
+
+#include <algorithm>
+
+namespace cserko {
+
+void DiaryPlatform::note(const std::string& entry) {
+  const auto& commands = media().commands;
+  for (; heard_ < commands.size(); ++heard_) diary_.push_back(to_utf8(commands[heard_]));
+  if (!entry.empty()) diary_.push_back(entry);
+}
+
+const std::vector<std::string>& DiaryPlatform::diary() {
+  note({});
+  return diary_;
+}
+
+std::vector<std::string> DiaryPlatform::diary(std::initializer_list<std::string_view> beginnings) {
+  std::vector<std::string> entries;
+  std::copy_if(diary().begin(), diary().end(), std::back_inserter(entries), [&](const std::string& entry) {
+    return std::any_of(beginnings.begin(), beginnings.end(),
+                       [&](std::string_view beginning) { return entry.starts_with(beginning); });
+  });
+  return entries;
+}
+
+int DiaryPlatform::count(std::string_view entry) {
+  return static_cast<int>(std::count(diary().begin(), diary().end(), entry));
+}
+
+void DiaryPlatform::seed_random() {
+  note("seed");
+  HeadlessPlatform::seed_random();
+}
+
+void DiaryPlatform::attach(Window& window) {
+  note("load " + to_utf8(window.Name));
+  HeadlessPlatform::attach(window);
+}
+
+void DiaryPlatform::detach(Window& window) {
+  note("unload " + to_utf8(window.Name));
+  HeadlessPlatform::detach(window);
+}
+
+void DiaryPlatform::show(Window& window) {
+  note("show " + to_utf8(window.Name));
+  HeadlessPlatform::show(window);
+}
+
+void DiaryPlatform::show_modal(Window& window) {
+  note("modal " + to_utf8(window.Name));
+  HeadlessPlatform::show_modal(window);
+}
+
+void DiaryPlatform::hide(Window& window) {
+  if (window.visible()) note("hide " + to_utf8(window.Name));
+  HeadlessPlatform::hide(window);
+}
+
+void DiaryPlatform::start_process(const Text& command_line, ProcessWindow window) {
+  note("start " + to_utf8(command_line));
+  HeadlessPlatform::start_process(command_line, window);
+}
+
+void DiaryPlatform::end_process() {
+  note("end");
+  HeadlessPlatform::end_process();
+}
+
+SuiteTest::SuiteTest() {
+  machine.set_seed(20260101);
+  for (const TextView sound : {u"null.wav", u"cserko\\clack 1.wav", u"cserko\\moving.wav", u"cserko\\alarm.wav"})
+    put_app_file(sound);
+}
+
+SuiteTest::~SuiteTest() = default;
+
+void SuiteTest::TearDown() {
+  EXPECT_TRUE(machine.script.empty()) << "windows that were expected did not come";
+  EXPECT_EQ(machine.scripted_random_left(), 0U) << "random numbers that were not drawn";
+  EXPECT_EQ(machine.errors.size(), expected_errors) << (machine.errors.empty() ? "" : utf8(machine.errors.back()));
+}
+
+void SuiteTest::put_word(const Word& word) {
+  const Text number = to_text(++records_);
+  const Text& name = word.név;
+  const auto or_else = [](const Text& text, const Text& otherwise) { return text.empty() ? otherwise : text; };
+  Text content;
+  for (const Text& line :
+       {u"1-" + number, name, Text(u"x"), or_else(word.angol, u"the " + name), or_else(word.szótagolt, name),
+        name + u" meghatározása.", name + u" igaz állítása.", name + u" hamis állítása."}) {
+    content += line + u"\r\n";
+  }
+  const Text base = Text(app) + u"kepek\\" + number;
+  machine.files().put(base + u".wms", to_cp1250(content));
+  if (word.has_picture) machine.files().put(base + u".wmf", "picture");
+}
+
+void SuiteTest::put_words(std::initializer_list<TextView> names) {
+  for (const TextView name : names) put_word({Text(name)});
+}
+
+void SuiteTest::put_sounds(std::initializer_list<TextView> names) {
+  for (const TextView name : names) put_app_file(u"hangok\\" + Text(name));
+}
+
+void SuiteTest::put_app_file(TextView path, TextView content) {
+  machine.files().put(Text(app) + Text(path), to_cp1250(content));
+}
+
+void SuiteTest::put_settings(TextView name, std::initializer_list<TextView> lines) {
+  Text content;
+  for (const TextView line : lines) content += Text(line) + u"\r\n";
+  machine.files().put(Text(user_folder) + Text(name), to_cp1250(content));
+}
+
+std::string SuiteTest::file(TextView path) const { return machine.files().read(Text(path)).value_or("(none)"); }
+
+Session& SuiteTest::assemble() {
+  session_.emplace(machine);
+  install_feedback(*session_);
+  install_exercises(*session_);
+  return *session_;
+}
+
+Session& SuiteTest::start() {
+  assemble();
+  session_->képek.load(machine.files(), session_->alapkönyvtár);
+  return *session_;
+}
+
+void SuiteTest::then_close_message() {
+  then_in<szövegüzenet>([this](szövegüzenet& panel) {
+    message = utf8(panel.szöveg.Caption);
+    ++messages_shown;
+    hand::click(panel.Command1);
+  });
+}
+
+std::string SuiteTest::commands() {
+  std::string lines;
+  const auto& all = machine.media().commands;
+  for (; heard_ < all.size(); ++heard_) lines += utf8(all[heard_]) + "\n";
+  return lines;
+}
+
+const RecordedCanvas& drawn(PictureBox& box) { return dynamic_cast<const RecordedCanvas&>(box.canvas()); }
+
+} // namespace cserko

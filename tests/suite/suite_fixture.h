@@ -1,0 +1,158 @@
+// The whole suite on the headless machine, with a data pack that is written down in the test: records, sounds and
+// pictures in memory, a person at the screen who is the test itself.
+#pragma once
+
+#include "core/session.h"
+#include "exercises/exercises.h"
+#include "feedback/feedback.h"
+#include "platform/headless/hand.h"
+#include "platform/headless/headless_platform.h"
+
+#include <gtest/gtest.h>
+
+namespace cserko {
+
+/// Fields of one record; those left empty get a text made from the name.
+struct Word {
+  Text név;
+  Text angol{};
+  Text szótagolt{};
+  bool has_picture = true;
+};
+
+inline constexpr TextView app = u"c:\\cserko\\";
+inline constexpr TextView user_folder = u"c:\\pomzu\\cserko\\";
+
+/// What a window of the test itself looks like: an empty one with a button, for places where the suite opens a window
+/// that it is offered by name.
+class PlainWindow : public Window {
+ public:
+  PlainWindow(Session& session, TextView name, Size design = {3000, 2000})
+      : Window(session.platform(), name, design, name) {}
+};
+
+/// The graphic main window and the drawing reward as the suite knows them: by name alone.
+struct GraphicWindow : PlainWindow {
+  explicit GraphicWindow(Session& session) : PlainWindow(session, u"frm_grafikus_főablak") {}
+};
+struct DrawingWindow : PlainWindow {
+  explicit DrawingWindow(Session& session) : PlainWindow(session, u"frm_rajz") {}
+  Timer Timer2{*this, u"Timer2", 120000};
+};
+
+/// The headless machine with a diary of what the suite does, in order: windows, media commands, seedings, programs.
+class DiaryPlatform : public HeadlessPlatform {
+ public:
+  /// Entries such as "load frm_cserkó", "modal frm_cserkó", "play hang ", "seed", "end".
+  const std::vector<std::string>& diary();
+  /// The entries that begin with one of the given words, in order.
+  std::vector<std::string> diary(std::initializer_list<std::string_view> beginnings);
+  int count(std::string_view entry);
+
+  void seed_random() override;
+  void attach(Window& window) override;
+  void detach(Window& window) override;
+  void show(Window& window) override;
+  void show_modal(Window& window) override;
+  void hide(Window& window) override;
+  void start_process(const Text& command_line, ProcessWindow window) override;
+  void end_process() override;
+
+ private:
+  void note(const std::string& entry);
+
+  std::vector<std::string> diary_;
+  std::size_t heard_ = 0;
+};
+
+class SuiteTest : public ::testing::Test {
+ protected:
+  SuiteTest();
+  ~SuiteTest() override;
+  /// Everything that was told to happen must have happened, and nothing else must have failed.
+  void TearDown() override;
+  /// How many error reports the test expects by its end.
+  std::size_t expected_errors = 0;
+
+  // The pack.
+
+  /// Puts a record with its picture into the pack; the first one has the index 0.
+  void put_word(const Word& word);
+  void put_words(std::initializer_list<TextView> names);
+  /// Puts sounds of that name into the folder of the event sounds.
+  void put_sounds(std::initializer_list<TextView> names);
+  void put_app_file(TextView path, TextView content = u"x");
+  /// A settings file of the user, its lines given with CR LF behind each.
+  void put_settings(TextView name, std::initializer_list<TextView> lines);
+  /// The bytes of a file, "(none)" if there is no such file.
+  std::string file(TextView path) const;
+  std::string settings(TextView name) const { return file(Text(user_folder) + Text(name)); }
+
+  // The suite.
+
+  /// Puts the suite together and loads the records that were put so far. Not part of `Main`.
+  Session& start();
+  /// Puts the suite together without loading anything.
+  Session& assemble();
+  Session& session() { return *session_; }
+  void end_session() { session_.reset(); }
+
+  template<class W> W& load() { return session().window<W>(); }
+  /// Loads a window and shows it to the person, who may then touch it.
+  template<class W> W& open() {
+    W& window = load<W>();
+    machine.show(window);
+    return window;
+  }
+
+  /// What the person does when the next window is shown modally. Several calls are for several windows in turn.
+  void then(const std::function<void(Window& shown)>& deed) { machine.script.push_back(deed); }
+  /// The same for a window of a known class.
+  template<class W> void then_in(const std::function<void(W& shown)>& deed) {
+    then([deed](Window& shown) {
+      auto* window = dynamic_cast<W*>(&shown);
+      if (window == nullptr) throw std::logic_error("another window than expected: " + to_utf8(shown.Name));
+      deed(*window);
+    });
+  }
+  /// Presses the button of the next message panel and keeps what it said.
+  void then_close_message();
+  /// What the last closed message panel said, in UTF-8.
+  std::string message;
+  int messages_shown = 0;
+
+  // What was heard.
+
+  /// All media commands since the last call, in UTF-8, one a line.
+  std::string commands();
+  void forget_commands() { heard_ = machine.media().commands.size(); }
+
+  /// A random number that makes the whole part of (random × n) the given number.
+  static double drawing(double number, double n) { return (number + 0.5) / n; }
+  /// A random number by which the draw of a record hits the index.
+  double record(int index) { return drawing(index, session().képek.képszám); }
+
+  DiaryPlatform machine;
+
+ private:
+  std::optional<Session> session_;
+  int records_ = 0;
+  std::size_t heard_ = 0;
+};
+
+/// Texts in UTF-8, so that a failing test prints them.
+inline std::string utf8(TextView text) { return to_utf8(text); }
+
+/// Place and size of an element, for comparisons.
+inline Rect place_of(const Element& element) { return {element.Left, element.Top, element.Width, element.Height}; }
+
+inline void PrintTo(const Rect& rect, std::ostream* out) {
+  *out << rect.left << ", " << rect.top << ", " << rect.width << " x " << rect.height;
+}
+inline void PrintTo(const Point& point, std::ostream* out) { *out << point.x << ", " << point.y; }
+inline void PrintTo(const Size& size, std::ostream* out) { *out << size.width << " x " << size.height; }
+
+/// What a canvas of the headless machine was told to draw.
+const RecordedCanvas& drawn(PictureBox& box);
+
+} // namespace cserko
