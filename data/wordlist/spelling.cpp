@@ -38,11 +38,16 @@ bool holds(const std::string& analysis, std::string_view field) {
 /// Compounds that the dictionary makes up by itself name their parts.
 bool is_listed(const std::string& analysis) { return analysis.find("pa:") == std::string::npos; }
 
-bool is_word(Hunspell& speller, const std::string& word) {
-  const auto analyses = speller.analyze(word);
-  return speller.spell(word) && std::ranges::any_of(analyses, [](const std::string& analysis) {
-           return is_listed(analysis) && analysis.find(" po:") != std::string::npos;
-         });
+/// What the dictionary itself lists under a word: not the compounds that it makes up.
+std::vector<std::string> listed_analyses(Hunspell& speller, const std::string& word) {
+  if (!speller.spell(word)) return {};
+  std::vector<std::string> analyses = speller.analyze(word);
+  std::erase_if(analyses, [](const std::string& analysis) { return !is_listed(analysis); });
+  return analyses;
+}
+
+bool any_holds(const std::vector<std::string>& analyses, std::string_view field) {
+  return std::ranges::any_of(analyses, [&](const std::string& analysis) { return holds(analysis, field); });
 }
 
 /// A form that the dictionary does not list but understands: a word made from a root of a given kind with given fields.
@@ -67,26 +72,33 @@ std::size_t count_of(const std::string& text, std::string_view part) {
 
 bool derives(const std::string& analysis, const std::string& root, const Derivation& derivation) {
   const std::size_t inflections = derivation.kind == "po:noun" ? 2 : derivation.ending.empty() ? 1 : 0;
-  return is_listed(analysis) && holds(analysis, "st:" + root) && holds(analysis, derivation.kind) &&
-         holds(analysis, derivation.form) && (derivation.ending.empty() || holds(analysis, derivation.ending)) &&
-         count_of(analysis, " is:") == inflections;
+  return holds(analysis, "st:" + root) && holds(analysis, derivation.kind) && holds(analysis, derivation.form) &&
+         (derivation.ending.empty() || holds(analysis, derivation.ending)) && count_of(analysis, " is:") == inflections;
 }
 
 bool is_form_of(Hunspell& speller, const std::string& word, const std::string& root) {
-  if (!speller.spell(word)) return false;
-  const auto analyses = speller.analyze(word);
+  const auto analyses = listed_analyses(speller, word);
   return std::ranges::any_of(derivations, [&](const Derivation& derivation) {
     return std::ranges::any_of(analyses, [&](const auto& analysis) { return derives(analysis, root, derivation); });
   });
 }
 
-void add_forms(Hunspell& speller, const Text& root, std::vector<Text>& words) {
-  if (root.size() > longest_root) return;
-  std::vector<Text> forms = possible_plurals(root);
-  const std::vector<Text> verbal = possible_verb_forms(root);
-  forms.insert(forms.end(), verbal.begin(), verbal.end());
+/// Adds a word of the dictionary and its forms. Only the forms of its kind are tried, as each try costs much.
+void add_word(Hunspell& speller, const Text& word, std::vector<Text>& words) {
+  const std::string root = to_utf8(word);
+  const auto analyses = listed_analyses(speller, root);
+  const auto has_kind = [](const std::string& analysis) { return analysis.find(" po:") != std::string::npos; };
+  if (std::ranges::none_of(analyses, has_kind)) return;
+  words.push_back(word);
+  if (word.size() > longest_root) return;
+  std::vector<Text> forms;
+  if (any_holds(analyses, "po:noun")) forms = possible_plurals(word);
+  if (any_holds(analyses, "po:vrb")) {
+    const std::vector<Text> verbal = possible_verb_forms(word);
+    forms.insert(forms.end(), verbal.begin(), verbal.end());
+  }
   for (const Text& form : forms)
-    if (is_form_of(speller, to_utf8(form), to_utf8(root))) words.push_back(form);
+    if (is_form_of(speller, to_utf8(form), root)) words.push_back(form);
 }
 
 /// The word of a dictionary line such as "alma/129<TAB>1".
@@ -116,9 +128,7 @@ std::vector<Text> dictionary_words(const std::filesystem::path& affixes, const s
   std::vector<Text> words;
   while (std::getline(lines, line)) {
     const Text word = word_of(line);
-    if (!is_plain_word(word) || !is_word(speller, to_utf8(word))) continue;
-    words.push_back(word);
-    add_forms(speller, word, words);
+    if (is_plain_word(word)) add_word(speller, word, words);
   }
   return words;
 }
