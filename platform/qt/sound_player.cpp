@@ -198,6 +198,7 @@ void SoundPlayer::close_device() {
 
 void SoundPlayer::load_wave(unsigned number, const std::string& path) {
   close_wave();
+  if (title_number(MediaAlias::Hang) != number) return; // closed again meanwhile: a slow computer skips it
   wave_.number = number;
   if (!device_open_) return set_fate(MediaAlias::Hang, number, TitleFate::Mute);
   wave_.chunk = ChunkPtr(Mix_LoadWAV(path.c_str()), [](Mix_Chunk* chunk) { Mix_FreeChunk(chunk); });
@@ -205,7 +206,7 @@ void SoundPlayer::load_wave(unsigned number, const std::string& path) {
 }
 
 void SoundPlayer::start_wave(unsigned number) {
-  if (wave_.number != number || !wave_.chunk) return;
+  if (wave_.number != number || !wave_.chunk || title_number(MediaAlias::Hang) != number) return;
   voices_.stop(wave_.voice);
   wave_.voice = voices_.play(wave_.chunk);
   wave_.started = true;

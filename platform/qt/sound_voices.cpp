@@ -14,7 +14,9 @@ constexpr int fade_frames = mixer_rate * 5 / 1000;
 
 void SoundVoices::fade_effect(int, void* stream, int bytes, void* data) {
   Voice& voice = *static_cast<Voice*>(data);
-  if (!voice.fading.load(std::memory_order_relaxed)) return;
+  const bool heard_before = voice.heard.exchange(true);
+  if (!voice.fading) return;
+  if (!heard_before) voice.fade_frames_left = 0;
   auto* sample = static_cast<std::int16_t*>(stream);
   const int frames = bytes / static_cast<int>(sizeof(std::int16_t) * mixer_channels);
   for (int i = 0; i < frames; ++i) {
@@ -34,6 +36,7 @@ int SoundVoices::free_voice() {
   };
   if (const int over = index_of([](const Voice& v) { return v.over.load(); }); over >= 0) return over;
   if (const int faded = index_of([](const Voice& v) { return v.faded.load(); }); faded >= 0) return faded;
+  if (const int unheard = index_of([](const Voice& v) { return v.fading && !v.heard; }); unheard >= 0) return unheard;
   const auto oldest =
       std::min_element(voices_.begin(), voices_.end(), [](const Voice& a, const Voice& b) { return a.turn < b.turn; });
   return static_cast<int>(oldest - voices_.begin());
@@ -44,6 +47,7 @@ SoundVoices::Id SoundVoices::play(ChunkPtr chunk) {
   const int channel = free_voice();
   Voice& voice = voices_[static_cast<std::size_t>(channel)];
   Mix_HaltChannel(channel);
+  voice.heard = false;
   voice.fading = false;
   voice.faded = false;
   voice.over = false;

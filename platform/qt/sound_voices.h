@@ -30,7 +30,7 @@ class SoundVoices {
   /// Starts a sound at once. The voice keeps it alive until it is over. An Id that never sounds if it cannot be played.
   Id play(ChunkPtr chunk);
 
-  /// Fades a sound out within 5 ms.
+  /// Fades a sound out within 5 ms. One that was not heard yet stays unheard.
   void stop(Id id);
 
   bool sounding(Id id) const;
@@ -43,6 +43,7 @@ class SoundVoices {
 
  private:
   struct Voice {
+    std::atomic<bool> heard{false}; // some of it has been mixed
     std::atomic<bool> fading{false};
     std::atomic<bool> faded{false};
     std::atomic<bool> over{true};

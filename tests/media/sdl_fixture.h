@@ -16,6 +16,7 @@
 #include <cstring>
 #include <functional>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <memory>
 #include <string>
 #include <thread>
@@ -23,9 +24,9 @@
 
 namespace cserko::test {
 
-/// Waits for a condition; false if it does not come true in time.
+/// Waits for a condition; false if it does not come true in time. A busy computer reads a sound font for half a minute.
 inline bool eventually(const std::function<bool()>& condition,
-                       std::chrono::milliseconds limit = std::chrono::seconds(20)) {
+                       std::chrono::milliseconds limit = std::chrono::minutes(3)) {
   const auto deadline = std::chrono::steady_clock::now() + limit;
   while (!condition()) {
     if (std::chrono::steady_clock::now() > deadline) return false;
@@ -88,6 +89,13 @@ class SdlMediaTest : public testing::Test {
     std::vector<std::int16_t> left(static_cast<std::size_t>(bytes.size()) / 4);
     for (std::size_t i = 0; i < left.size(); ++i) std::memcpy(&left[i], bytes.constData() + i * 4, 2);
     return left;
+  }
+
+  /// Whether the last seconds that were heard are silence.
+  bool silent_at_end(double seconds) const {
+    const auto heard = listen();
+    const auto count = static_cast<std::ptrdiff_t>(seconds * test_rate);
+    return std::ssize(heard) >= count && std::all_of(heard.end() - count, heard.end(), [](int s) { return s == 0; });
   }
 
   int send(const std::u16string& command) { return media_->send(command).code; }

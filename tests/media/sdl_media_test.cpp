@@ -62,14 +62,13 @@ TEST_F(SdlWave, StrikingAgainAndAgainRestartsTheSoundWithoutAClick) {
     ASSERT_TRUE(record_more(0.05 + 0.001 * strike));
   }
   ASSERT_EQ(send(u"close hang"), 0);
-  ASSERT_TRUE(record_more(0.1));
+  EXPECT_TRUE(eventually([this] { return silent_at_end(0.1); }));
   const auto heard = end_and_listen();
   EXPECT_GT(peak(heard), peak_level * 9 / 10);
   // The steepest step of the new sound, of the old one, and of its fade of 220 samples. A cut would jump by thousands.
   const double step_of_sine = peak_level * 2.0 * std::numbers::pi * hertz / test_rate;
   EXPECT_LT(largest_step(heard), 2 * step_of_sine + peak_level / 220.0 + 10);
   EXPECT_LT(heard.size(), static_cast<std::size_t>(strikes) * test_rate) << "each strike cut the one before";
-  EXPECT_EQ(heard.back(), 0);
 }
 
 TEST_F(SdlWave, TheSignalIsHeardBesideASound) {
@@ -159,18 +158,16 @@ TEST_F(SdlMusic, PausedMusicIsSilentAndGoesOnWithoutAClick) {
     ASSERT_TRUE(record_more(1.0));
     EXPECT_EQ(midi_mode(), u"playing");
     ASSERT_EQ(send(u"pause midi"), 0);
-    ASSERT_TRUE(record_more(0.5));
+    EXPECT_TRUE(eventually([this] { return silent_at_end(0.25); }));
     EXPECT_EQ(midi_mode(), u"paused");
     ASSERT_EQ(send(u"play midi"), 0);
   }
   ASSERT_EQ(send(u"close midi"), 0);
   EXPECT_EQ(midi_mode(), u"");
-  ASSERT_TRUE(record_more(1.0));
+  EXPECT_TRUE(eventually([this] { return silent_at_end(0.25); })) << "closed music is gone";
   const auto heard = end_and_listen();
   const int level = peak(heard);
   EXPECT_GT(level, 300);
-  const auto silent = std::adjacent_find(heard.rbegin(), heard.rend(), std::not_equal_to<>());
-  EXPECT_GT(silent - heard.rbegin(), test_rate / 4) << "closed music is gone";
   EXPECT_LT(largest_step(heard), level / 4) << "a cut would jump by the level itself";
 }
 
