@@ -11,7 +11,7 @@ namespace cserko {
 
 namespace {
 
-constexpr qint64 kMostFileBytes = 32 * 1024 * 1024;
+constexpr qint64 kMostFileBytes = 32LL * 1024 * 1024;
 constexpr qint64 kMostPixels = 40'000'000;
 constexpr int kMostSide = 8192;
 
@@ -61,7 +61,7 @@ QString picture_file(const QString& path) {
   if (info.suffix().compare(QLatin1String("wmf"), Qt::CaseInsensitive) != 0) return {};
   const QString base = path.left(path.size() - info.suffix().size());
   for (const char* ending : {"png", "jpg", "jpeg", "PNG", "JPG", "JPEG"}) {
-    const QString other = base + QLatin1String(ending);
+    QString other = base + QLatin1String(ending);
     if (QFileInfo(other).isFile()) return other;
   }
   return {};

@@ -47,7 +47,7 @@ std::shared_ptr<const LoadedPicture> load_picture(const QString& path);
 /// size) is read again. For use on one thread.
 class PictureCache {
  public:
-  static constexpr qsizetype kDefaultLimit = 24 * 1024 * 1024;
+  static constexpr qsizetype kDefaultLimit = 24LL * 1024 * 1024;
   /// `limit` in bytes. What alone is larger is handed out but not kept.
   explicit PictureCache(qsizetype limit = kDefaultLimit) : limit_(limit) {}
 

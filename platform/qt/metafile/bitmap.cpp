@@ -156,7 +156,8 @@ QImage decode_mono_pattern(QByteArrayView bitmap) {
   const int planes = at<quint8>(bitmap, 8), depth = at<quint8>(bitmap, 9);
   if (width <= 0 || height <= 0 || planes != 1 || depth != 1 || stride * 8 < width) return {};
   if (bitmap.size() < kHeader + static_cast<qsizetype>(stride) * height) return {};
-  if (static_cast<qint64>(width) * height > 1024 * 1024) return {};
+  constexpr qint64 kMostPatternPixels = 1 << 20;
+  if (static_cast<qint64>(width) * height > kMostPatternPixels) return {};
   QImage image(width, height, QImage::Format_RGB32);
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {

@@ -16,6 +16,8 @@ struct DibInfo {
   bool packed = false;     ///< run-length coded
   bool short_core = false; ///< the old header of 12 bytes
   qsizetype table_bytes = 0, pixel_bytes = 0;
+
+  qsizetype pixels() const { return static_cast<qsizetype>(width) * height; }
 };
 
 /// How the colours of a bitmap's table are given.

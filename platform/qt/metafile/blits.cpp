@@ -168,7 +168,7 @@ void Player::dib_blit(QByteArrayView dib, const DibPart& part, Blit blit) {
   const std::optional<DibInfo> info = check_dib(dib, part.colors, some_rows ? part.rows : 0);
   if (!info) return;
   canvas_.note(QRectF(blit.corner, blit.opposite).normalized());
-  if (canvas_.measuring() || !budget_.take_pixels(static_cast<qsizetype>(info->width) * info->height)) return;
+  if (canvas_.measuring() || !budget_.take_pixels(info->pixels())) return;
   const QImage image = decode_dib(dib, *info, part.colors, state_.palette);
   if (image.isNull()) return;
   const int height = some_rows ? whole : info->height;

@@ -65,7 +65,9 @@ class EdgeCounts {
 template<typename Spans> void fill_spans(const Outline& outline, bool winding, QRect area, Spans spans) {
   constexpr int kBandCells = 4'000'000;
   constexpr int kEdgesBetween = 4096;
-  const int band = std::clamp(kBandCells / (area.width() + 1), 1, std::max(area.height(), 1));
+  // Low bands, so that there is something to see when the time ends in the middle.
+  constexpr int kBandRows = 64;
+  const int band = std::clamp(kBandCells / (area.width() + 1), 1, std::min(kBandRows, std::max(area.height(), 1)));
   detail::EdgeCounts counts(area, band);
   std::vector<QRect> found;
   for (int top = area.top(); top <= area.bottom(); top += band) {

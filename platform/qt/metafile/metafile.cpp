@@ -170,7 +170,7 @@ QImage Metafile::render(QSize size, PictureFit fit) const {
   if (static_cast<qint64>(size.width()) * size.height() > kMostPixels) return {};
   if (fit == PictureFit::Stretch) return play(size);
   const QSize inner = fitted_size(natural_size_, size);
-  const QImage picture = play(inner);
+  QImage picture = play(inner);
   if (picture.isNull() || inner == size) return picture;
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) return {};

@@ -315,7 +315,7 @@ void Player::create_dib_pattern(const WmfRecord& r) {
   brush.style = WmfBrush::kPattern;
   const QByteArrayView dib = r.bytes(kDibWord);
   const std::optional<DibInfo> info = check_dib(dib, colors);
-  if (info && info->width * info->height <= kMostPatternPixels && budget_.take_pixels(info->width * info->height)) {
+  if (info && info->pixels() <= kMostPatternPixels && budget_.take_pixels(info->pixels())) {
     brush.pattern = decode_dib(dib, *info, colors, state_.palette);
   }
   objects_.create(brush);
