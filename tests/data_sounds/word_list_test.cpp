@@ -116,6 +116,19 @@ TEST(PictureNames, AreTheColumnOfThatName) {
   EXPECT_THROW(picture_names(other), std::runtime_error);
 }
 
+TEST(DictionaryWords, AreThePlainOnesWithTheFormsThatTheDictionaryUnderstands) {
+  const std::filesystem::path folder = testing::TempDir();
+  std::ofstream(folder / "cserko-words.aff") << "SET UTF-8\nSFX P Y 1\nSFX P a ák a is:PLUR is:NOM\n";
+  std::ofstream(folder / "cserko-words.dic") << "7\nalma/P po:noun ts:NOM\nfa po:noun ts:NOM\nkg po:noun ts:NOM\n"
+                                                "Anna po:noun ts:NOM\nfut po:vrb\naaaa po:noun\nnemismert\n";
+  const auto words = dictionary_words(folder / "cserko-words.aff", folder / "cserko-words.dic");
+  EXPECT_EQ(words, (std::vector<Text>{u"alma", u"almák", u"fa", u"fut"}));
+}
+
+TEST(DictionaryWords, NeedTheirDictionary) {
+  EXPECT_THROW(dictionary_words("no-such.aff", "no-such.dic"), std::runtime_error);
+}
+
 TEST(PossiblePlurals, LengthenTheLastVowelOrTryEachLink) {
   EXPECT_EQ(possible_plurals(u"alma"), std::vector<Text>{u"almák"});
   EXPECT_EQ(possible_plurals(u"körte"), std::vector<Text>{u"körték"});
