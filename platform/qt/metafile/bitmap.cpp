@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kCoreHeader = 12, kInfoHeader = 40;
 constexpr int kLongestHeader = 124;
+constexpr int kCoreHeightOffset = 6, kInfoHeightOffset = 8;
 constexpr qint64 kMostPixels = 16'000'000;
 constexpr int kFileHeader = 14;
 
@@ -22,8 +23,8 @@ template<typename T> T at(QByteArrayView bytes, qsizetype offset) {
 
 bool read_core_header(QByteArrayView dib, DibInfo& info) {
   info.short_core = true;
-  info.width = at<quint16>(dib, 4);
-  info.height = at<quint16>(dib, 6);
+  info.width = at<qint16>(dib, 4);
+  info.height = at<qint16>(dib, kCoreHeightOffset);
   info.depth = at<quint16>(dib, 10);
   return true;
 }
@@ -31,7 +32,7 @@ bool read_core_header(QByteArrayView dib, DibInfo& info) {
 bool read_info_header(QByteArrayView dib, DibInfo& info, quint32& compression) {
   if (dib.size() < kInfoHeader) return false;
   info.width = at<qint32>(dib, 4);
-  const auto height = at<qint32>(dib, 8);
+  const auto height = at<qint32>(dib, kInfoHeightOffset);
   if (height == std::numeric_limits<qint32>::min()) return false;
   info.top_down = height < 0;
   info.height = std::abs(height);
@@ -95,6 +96,13 @@ void put_u32(QByteArray& bytes, qsizetype offset, quint32 value) { qToLittleEndi
 
 } // namespace
 
+int dib_header_rows(QByteArrayView dib) {
+  if (dib.size() < kCoreHeader) return 0;
+  if (at<quint32>(dib, 0) == kCoreHeader) return std::max<int>(at<qint16>(dib, kCoreHeightOffset), 0);
+  constexpr qint64 kMostRows = 1 << 24;
+  return static_cast<int>(std::min(std::abs(static_cast<qint64>(at<qint32>(dib, kInfoHeightOffset))), kMostRows));
+}
+
 std::optional<DibInfo> check_dib(QByteArrayView dib, DibColors colors, int rows) {
   if (dib.size() < kCoreHeader) return std::nullopt;
   DibInfo info;
@@ -105,7 +113,7 @@ std::optional<DibInfo> check_dib(QByteArrayView dib, DibColors colors, int rows)
   quint32 compression = kRgb;
   const bool core = header_size == kCoreHeader;
   if (!(core ? read_core_header(dib, info) : read_info_header(dib, info, compression))) return std::nullopt;
-  if (rows > 0) info.height = rows;
+  if (rows > 0) info.height = core ? std::min<int>(rows, std::numeric_limits<qint16>::max()) : rows;
   if (info.width <= 0 || info.height <= 0 || !known_coding(info, compression)) return std::nullopt;
   if (static_cast<qint64>(info.width) * info.height > kMostPixels) return std::nullopt;
   info.packed = compression == kRle8 || compression == kRle4;
@@ -136,8 +144,10 @@ QImage decode_dib(QByteArrayView dib, const DibInfo& info, DibColors colors, con
   put_u32(file, 2, static_cast<quint32>(file.size()));
   put_u32(file, 10, static_cast<quint32>(offset));
   // The height of the rows really present, the colours really used; many writers forget the number of planes.
-  if (!info.short_core) {
-    put_u32(file, kFileHeader + 8, static_cast<quint32>(info.top_down ? -info.height : info.height));
+  if (info.short_core) {
+    qToLittleEndian(static_cast<quint16>(info.height), file.data() + kFileHeader + kCoreHeightOffset);
+  } else {
+    put_u32(file, kFileHeader + kInfoHeightOffset, static_cast<quint32>(info.top_down ? -info.height : info.height));
     if (info.depth <= 8) put_u32(file, kFileHeader + 32, static_cast<quint32>(table_entries(info, colors)));
   }
   file[kFileHeader + (info.short_core ? 8 : 12)] = 1;

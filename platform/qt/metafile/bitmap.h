@@ -23,6 +23,9 @@ struct DibInfo {
 /// How the colours of a bitmap's table are given.
 enum class DibColors { Direct = 0, PaletteIndex = 1 };
 
+/// Rows that the header of a bitmap speaks of, without sign; 0 when it is too short to say.
+int dib_header_rows(QByteArrayView dib);
+
 /// Nothing when the header is of an unknown kind or the bytes are too few. `rows` other than 0 stands for the rows
 /// really present where a record holds only some of them.
 std::optional<DibInfo> check_dib(QByteArrayView dib, DibColors colors, int rows = 0);

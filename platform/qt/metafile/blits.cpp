@@ -1,6 +1,5 @@
 #include "player.h"
 
-#include <QtEndian>
 #include <algorithm>
 #include <cmath>
 #include <vector>
@@ -10,14 +9,6 @@ namespace cserko {
 namespace {
 
 quint8 operation_of(const WmfRecord& r) { return static_cast<quint8>(r.u16(1) & 0xFF); }
-
-/// Rows that the header of a bitmap speaks of, without sign; 0 for the old header and for none.
-int header_rows(QByteArrayView dib) {
-  constexpr qsizetype kHeightEnd = 12;
-  if (dib.size() <= kHeightEnd) return 0;
-  const auto height = qFromLittleEndian<qint32>(dib.data() + 8);
-  return static_cast<int>(std::min<qint64>(std::abs(static_cast<qint64>(height)), 1 << 24));
-}
 
 /// One direction of a blit: pixels [s0, s1) of the source go to [d0, d1) of the target; d1 below d0 mirrors.
 struct Axis {
@@ -163,7 +154,7 @@ void Player::dib_blit(QByteArrayView dib, const DibPart& part, Blit blit) {
   if (!raster_reads_source(blit.operation)) {
     return pattern_blit(pixel_rect(blit.corner, blit.opposite), blit.operation);
   }
-  const int whole = header_rows(dib);
+  const int whole = dib_header_rows(dib);
   const bool some_rows = part.rows > 0 && part.rows < whole;
   const std::optional<DibInfo> info = check_dib(dib, part.colors, some_rows ? part.rows : 0);
   if (!info) return;

@@ -1,0 +1,235 @@
+// The views of controls that the user types, steps or chooses in.
+#include "platform/input.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/theme.h"
+#include "platform/qt/view.h"
+
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace cserko {
+
+namespace {
+
+class LineEditView : public View {
+ public:
+  LineEditView(TextBox& box, ViewContext& context, QWidget* parent)
+      : View(box, context, new QLineEdit(parent)), box_(box), edit_(static_cast<QLineEdit&>(widget())) {
+    edit_.setFocusPolicy(Qt::ClickFocus);
+    QObject::connect(&edit_, &QLineEdit::textEdited, &edit_, [this](const QString& text) {
+      this->context().act([&box = box_, typed = from_qt(text)] { input::type(box, typed); });
+    });
+    QObject::connect(&edit_, &QLineEdit::editingFinished, &edit_,
+                     [this] { this->context().act([&box = box_] { input::finish_typing(box); }); });
+  }
+
+ protected:
+  bool sync_content() override {
+    const QString text = to_qt(box_.text());
+    if (edit_.text() == text && edit_.isReadOnly() == box_.Locked) return false;
+    if (edit_.text() != text) edit_.setText(text);
+    edit_.setReadOnly(box_.Locked);
+    if (box_.MaxLength > 0) edit_.setMaxLength(box_.MaxLength);
+    return true;
+  }
+
+ private:
+  TextBox& box_;
+  QLineEdit& edit_;
+};
+
+class TextEditView : public View {
+ public:
+  TextEditView(TextBox& box, ViewContext& context, QWidget* parent)
+      : View(box, context, new QPlainTextEdit(parent)), box_(box), edit_(static_cast<QPlainTextEdit&>(widget())) {
+    edit_.setFocusPolicy(Qt::ClickFocus);
+    QObject::connect(&edit_, &QPlainTextEdit::textChanged, &edit_, [this] {
+      this->context().act([&box = box_, typed = from_qt(edit_.toPlainText())] { input::type(box, typed); });
+    });
+  }
+
+ protected:
+  bool sync_content() override {
+    const QString text = lines_to_qt(box_.text());
+    if (edit_.toPlainText() == text && edit_.isReadOnly() == box_.Locked) return false;
+    const QSignalBlocker quiet(edit_);
+    if (edit_.toPlainText() != text) edit_.setPlainText(text);
+    edit_.setReadOnly(box_.Locked);
+    return true;
+  }
+
+ private:
+  TextBox& box_;
+  QPlainTextEdit& edit_;
+};
+
+/// Two small buttons, one over the other.
+class UpDownWidget : public QWidget {
+ public:
+  UpDownWidget(QWidget* parent, UpDown& updown, ViewContext& context) : QWidget(parent) {
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    for (const int direction : {1, -1}) {
+      auto* button = new QToolButton(this);
+      button->setArrowType(direction > 0 ? Qt::UpArrow : Qt::DownArrow);
+      button->setAutoRepeat(true);
+      button->setFocusPolicy(Qt::NoFocus);
+      button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+      button->setAccessibleName(direction > 0 ? "Több" : "Kevesebb");
+      connect(button, &QToolButton::clicked, this, [&updown, &context, direction] {
+        context.act([&updown, direction] { input::step(updown, direction); });
+      });
+      layout->addWidget(button);
+    }
+  }
+};
+
+class ListView : public View {
+ public:
+  ListView(ListBox& list, ViewContext& context, QWidget* parent)
+      : View(list, context, new QListWidget(parent)), list_(list), native_(static_cast<QListWidget&>(widget())) {
+    native_.setFocusPolicy(Qt::ClickFocus);
+    native_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    native_.setTextElideMode(Qt::ElideMiddle);
+    QObject::connect(&native_, &QListWidget::currentRowChanged, &native_, [this](int row) { choose(row); });
+    // A click on the entry that is selected already chooses it again.
+    QObject::connect(&native_, &QListWidget::itemClicked, &native_, [this](QListWidgetItem* item) {
+      if (!std::exchange(just_chosen_, false)) choose(native_.row(item));
+      just_chosen_ = false;
+    });
+  }
+
+ protected:
+  bool sync_content() override {
+    if (items_ == list_.Items && row_ == list_.list_index()) return false;
+    const QSignalBlocker quiet(native_);
+    if (items_ != list_.Items) {
+      items_ = list_.Items;
+      native_.clear();
+      for (const Text& item : items_) native_.addItem(to_qt(item));
+    }
+    row_ = list_.list_index();
+    native_.setCurrentRow(row_);
+    return true;
+  }
+
+ private:
+  void choose(int row) {
+    if (row < 0) return;
+    just_chosen_ = true;
+    row_ = row;
+    context().act([&list = list_, row] { input::select(list, row); });
+  }
+
+  ListBox& list_;
+  QListWidget& native_;
+  std::vector<Text> items_;
+  int row_ = -1;
+  bool just_chosen_ = false;
+};
+
+class ScrollView : public View {
+ public:
+  ScrollView(ScrollBar& bar, ViewContext& context, QWidget* parent)
+      : View(bar, context, new QScrollBar(Qt::Horizontal, parent)),
+        bar_(bar),
+        native_(static_cast<QScrollBar&>(widget())) {
+    native_.setFocusPolicy(Qt::ClickFocus);
+    QObject::connect(&native_, &QScrollBar::valueChanged, &native_,
+                     [this](int value) { this->context().act([&to = bar_, value] { input::scroll(to, value); }); });
+  }
+
+ protected:
+  bool sync_content() override {
+    const bool same = native_.value() == bar_.value() && native_.minimum() == bar_.Min && native_.maximum() == bar_.Max;
+    if (same) return false;
+    const QSignalBlocker quiet(native_);
+    native_.setRange(bar_.Min, bar_.Max);
+    native_.setSingleStep(bar_.SmallChange);
+    native_.setPageStep(bar_.LargeChange);
+    native_.setValue(bar_.value());
+    return true;
+  }
+
+ private:
+  ScrollBar& bar_;
+  QScrollBar& native_;
+};
+
+class ProgressWidget : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  /// Fills the bar up to a number of pixels; returns whether that is another than before.
+  bool fill(int pixels) {
+    if (pixels == filled_) return false;
+    filled_ = pixels;
+    update();
+    return true;
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double radius = height() / 4.0;
+    painter.setPen(QPen(theme::line, 1));
+    painter.setBrush(theme::field);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme::accent);
+    painter.drawRoundedRect(QRectF(3, 3, filled_, height() - 6), radius, radius);
+  }
+
+ private:
+  int filled_ = 0;
+};
+
+class ProgressView : public View {
+ public:
+  ProgressView(ProgressBar& bar, ViewContext& context, QWidget* parent)
+      : View(bar, context, new ProgressWidget(parent)), bar_(bar) {}
+
+ protected:
+  bool sync_content() override {
+    const int range = std::max(1, bar_.Max - bar_.Min);
+    const int inner = widget().width() - 6;
+    return static_cast<ProgressWidget&>(widget()).fill(inner * (bar_.Value - bar_.Min) / range);
+  }
+
+ private:
+  ProgressBar& bar_;
+};
+
+} // namespace
+
+std::unique_ptr<View> make_input_view(Element& element, ViewContext& context, QWidget* parent) {
+  switch (element.kind()) {
+  case ElementKind::TextBox: {
+    auto& box = static_cast<TextBox&>(element);
+    if (box.Multiline) return std::make_unique<TextEditView>(box, context, parent);
+    return std::make_unique<LineEditView>(box, context, parent);
+  }
+  case ElementKind::UpDown:
+    return std::make_unique<View>(element, context, new UpDownWidget(parent, static_cast<UpDown&>(element), context));
+  case ElementKind::ListBox:
+  case ElementKind::FileListBox:
+    return std::make_unique<ListView>(static_cast<ListBox&>(element), context, parent);
+  case ElementKind::ScrollBar:
+    return std::make_unique<ScrollView>(static_cast<ScrollBar&>(element), context, parent);
+  case ElementKind::ProgressBar:
+    return std::make_unique<ProgressView>(static_cast<ProgressBar&>(element), context, parent);
+  default:
+    return nullptr;
+  }
+}
+
+} // namespace cserko

@@ -1,0 +1,145 @@
+#include "platform/qt/qt_canvas.h"
+
+#include "platform/qt/qt_picture.h"
+#include "platform/qt/qt_text.h"
+
+#include <QPainter>
+#include <algorithm>
+#include <cmath>
+
+namespace cserko {
+
+namespace {
+
+int device_pixels(double pixels, double ratio) { return std::max(1, static_cast<int>(std::lround(pixels * ratio))); }
+
+Color to_color(QRgb pixel) {
+  // What lies under the drawing is taken for white.
+  const int alpha = qAlpha(pixel);
+  const auto over_white = [alpha](int value) {
+    return static_cast<std::uint8_t>((value * alpha + 255 * (255 - alpha)) / 255);
+  };
+  return {over_white(qRed(pixel)), over_white(qGreen(pixel)), over_white(qBlue(pixel))};
+}
+
+} // namespace
+
+QtCanvas::QtCanvas(Size size, const Fonts& fonts, double device_ratio)
+    : size_(size),
+      fonts_(fonts),
+      image_(device_pixels(size.width * fonts.scale(), device_ratio),
+             device_pixels(size.height * fonts.scale(), device_ratio), QImage::Format_ARGB32_Premultiplied) {
+  image_.setDevicePixelRatio(device_ratio);
+  image_.fill(Qt::transparent);
+}
+
+QPointF QtCanvas::to_pixels(Point place) const { return {place.x * fonts_.scale(), place.y * fonts_.scale()}; }
+
+QRectF QtCanvas::to_pixels(Rect place) const {
+  return {place.left * fonts_.scale(), place.top * fonts_.scale(), place.width * fonts_.scale(),
+          place.height * fonts_.scale()};
+}
+
+void QtCanvas::changed(const QRectF& place) {
+  changes_ |= place.normalized().adjusted(-2, -2, 2, 2);
+  ++revision_;
+}
+
+QRectF QtCanvas::take_changes() const { return std::exchange(changes_, QRectF()); }
+
+void QtCanvas::clear() {
+  image_.fill(Qt::transparent);
+  changed(to_pixels(Rect{0, 0, size_.width, size_.height}));
+}
+
+void QtCanvas::picture(const Picture& picture, Rect place) {
+  const QRectF target = to_pixels(place);
+  const double ratio = image_.devicePixelRatio();
+  const QImage drawn = static_cast<const QtPicture&>(picture).image((target.size() * ratio).toSize());
+  if (drawn.isNull()) return;
+  QRectF centered(QPointF(), QSizeF(drawn.size()) / ratio);
+  centered.moveCenter(target.center());
+  QPainter(&image_).drawImage(centered, drawn);
+  changed(target);
+}
+
+void QtCanvas::line(Point from, Point to, Color color, double width) {
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(to_qt(color), width * fonts_.scale(), Qt::SolidLine, Qt::RoundCap));
+  const QPointF a = to_pixels(from);
+  const QPointF b = to_pixels(to);
+  painter.drawLine(a, b);
+  const double margin = width * fonts_.scale();
+  changed(QRectF(a, b).normalized().adjusted(-margin, -margin, margin, margin));
+}
+
+void QtCanvas::box(Rect place, Color color) {
+  QPainter painter(&image_);
+  painter.setPen(QPen(to_qt(color), twips_per_pixel * fonts_.scale()));
+  painter.drawRect(to_pixels(place));
+  changed(to_pixels(place));
+}
+
+void QtCanvas::filled_box(Rect place, Color color) {
+  QPainter(&image_).fillRect(to_pixels(place), to_qt(color));
+  changed(to_pixels(place));
+}
+
+void QtCanvas::ellipse(Point center, double radius_x, double radius_y, Color color) {
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(to_qt(color), twips_per_pixel * fonts_.scale()));
+  painter.drawEllipse(to_pixels(center), radius_x * fonts_.scale(), radius_y * fonts_.scale());
+  changed(to_pixels(Rect{center.x - radius_x, center.y - radius_y, 2 * radius_x, 2 * radius_y}));
+}
+
+void QtCanvas::print(Point place, TextView text, const Font& font, Color color) {
+  QPainter painter(&image_);
+  painter.setFont(fonts_.font(font));
+  painter.setPen(to_qt(color));
+  const QFontMetricsF& metrics = fonts_.metrics(font);
+  QPointF baseline = to_pixels(place) + QPointF(0, metrics.ascent());
+  for (const QString& line : lines_to_qt(text).split('\n')) {
+    painter.drawText(baseline, line);
+    baseline.ry() += metrics.lineSpacing();
+  }
+  const Size extent = fonts_.measure(font, text);
+  changed(to_pixels(Rect{place.x, place.y, extent.width, extent.height}));
+}
+
+Color QtCanvas::point(Point place) const {
+  const QPoint pixel = (to_pixels(place) * image_.devicePixelRatio()).toPoint();
+  return image_.valid(pixel) ? to_color(image_.pixel(pixel)) : white;
+}
+
+void QtCanvas::set_point(Point place, Color color) {
+  filled_box({place.x, place.y, twips_per_pixel, twips_per_pixel}, color);
+}
+
+PixelImage QtCanvas::pixels() const {
+  const int width = static_cast<int>(size_.width / twips_per_pixel);
+  const int height = static_cast<int>(size_.height / twips_per_pixel);
+  PixelImage result{width, height, {}};
+  result.pixels.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+  for (int y = 0; y < height; ++y) {
+    for (int x = 0; x < width; ++x) result.pixels.push_back(point({x * twips_per_pixel, y * twips_per_pixel}));
+  }
+  return result;
+}
+
+void QtCanvas::set_pixels(const PixelImage& source) {
+  QImage image(source.width, source.height, QImage::Format_RGB32);
+  for (int y = 0; y < source.height; ++y) {
+    for (int x = 0; x < source.width; ++x) {
+      const Color color = source.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(source.width) +
+                                        static_cast<std::size_t>(x)];
+      image.setPixel(x, y, qRgb(color.red, color.green, color.blue));
+    }
+  }
+  const Rect place{0, 0, source.width * twips_per_pixel, source.height * twips_per_pixel};
+  QPainter(&image_).drawImage(to_pixels(place), image);
+  changed(to_pixels(place));
+}
+
+} // namespace cserko

@@ -1,0 +1,46 @@
+// The persistent drawing of a picture box or window as an image.
+#pragma once
+
+#include "platform/canvas.h"
+#include "platform/qt/fonts.h"
+
+#include <QImage>
+
+namespace cserko {
+
+class QtCanvas : public Canvas {
+ public:
+  /// `size` in twips; `device_ratio` is the number of device pixels to a device-independent one.
+  QtCanvas(Size size, const Fonts& fonts, double device_ratio);
+
+  void clear() override;
+  void picture(const Picture& picture, Rect place) override;
+  void line(Point from, Point to, Color color, double width) override;
+  void box(Rect place, Color color) override;
+  void filled_box(Rect place, Color color) override;
+  void ellipse(Point center, double radius_x, double radius_y, Color color) override;
+  void print(Point place, TextView text, const Font& font, Color color) override;
+  Color point(Point place) const override;
+  void set_point(Point place, Color color) override;
+  PixelImage pixels() const override;
+  void set_pixels(const PixelImage& image) override;
+  Size size() const override { return size_; }
+  std::uint64_t revision() const override { return revision_; }
+
+  const QImage& image() const { return image_; }
+  /// What was drawn since the last call, in device-independent pixels.
+  QRectF take_changes() const;
+
+ private:
+  QPointF to_pixels(Point place) const;
+  QRectF to_pixels(Rect place) const;
+  void changed(const QRectF& place);
+
+  Size size_;
+  const Fonts& fonts_;
+  QImage image_;
+  std::uint64_t revision_ = 0;
+  mutable QRectF changes_;
+};
+
+} // namespace cserko

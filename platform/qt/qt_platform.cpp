@@ -1,0 +1,425 @@
+#include "platform/qt/qt_platform.h"
+
+#include "platform/input.h"
+#include "platform/qt/keys.h"
+#include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_picture.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/sdl_media.h"
+#include "platform/qt/theme.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QScreen>
+#include <QScrollBar>
+#include <QSettings>
+#include <QThread>
+#include <QWindow>
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+namespace cserko {
+
+namespace {
+
+constexpr int frame_ms = 16;
+
+// How much larger than a small screen the screen is, in quarter steps: unscaled dialogs are not tiny on a large one.
+double zoom_of_screen() {
+  bool given = false;
+  const double wanted = qEnvironmentVariable("CSERKO_ZOOM").toDouble(&given);
+  if (given && wanted > 0) return wanted;
+  const QSize size = QGuiApplication::primaryScreen()->availableGeometry().size();
+  const double fit = std::min(size.width() / 1280.0, size.height() / 800.0);
+  return std::max(1.0, std::floor(fit * 4) / 4);
+}
+
+Window* window_of(QObject* object) {
+  auto* widget = qobject_cast<QWidget*>(object);
+  auto* view = widget != nullptr ? dynamic_cast<WindowView*>(widget->window()) : nullptr;
+  return view != nullptr ? &view->model() : nullptr;
+}
+
+} // namespace
+
+QtPlatform::QtPlatform()
+    : files_(QtFiles::find_pack(), QtFiles::find_user_folder()),
+      fonts_(zoom_of_screen() / twips_per_pixel),
+      context_{fonts_, [this](const std::function<void()>& deed) { act(deed); }} {
+  theme::apply();
+  clock_.start();
+  frame_.start();
+  media_ =
+      std::make_unique<SdlMedia>([this](const std::u16string& path) { return files_.real_path(path).toStdString(); });
+  seed_random();
+  QApplication::setQuitOnLastWindowClosed(false);
+  qApp->installEventFilter(this);
+}
+
+QtPlatform::~QtPlatform() {
+  qApp->removeEventFilter(this);
+  timers_.clear();
+  views_.clear();
+}
+
+void QtPlatform::set_window_icon(const Text& path) { QApplication::setWindowIcon(QIcon(files_.real_path(path))); }
+
+// ---- Events ----
+
+void QtPlatform::act(const std::function<void()>& deed) {
+  if (ended_ || quiet_) return;
+  ++acting_;
+  deed();
+  --acting_;
+  if (ended_) return;
+  if (std::exchange(was_deaf_, false)) drop_queued_input();
+  sync_all();
+}
+
+void QtPlatform::drop_queued_input() {
+  // What the user did while an animation ran must not take effect behind it.
+  quiet_ = true;
+  QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+  QCoreApplication::processEvents();
+  quiet_ = false;
+}
+
+void QtPlatform::sync_all() {
+  for (Window* window : std::vector<Window*>(stack_)) {
+    if (WindowView* view = view_of(*window)) view->sync();
+  }
+  sync_timers();
+}
+
+void QtPlatform::sync_timers() {
+  std::unordered_map<std::uint64_t, Timer*> running;
+  for (const Window* window : attached_) {
+    for (Element* element : window->elements()) {
+      if (element->kind() != ElementKind::Timer) continue;
+      if (auto* timer = static_cast<Timer*>(element); timer->running()) running[element->serial()] = timer;
+    }
+  }
+  std::erase_if(timers_, [&](const auto& entry) { return running.count(entry.first) == 0; });
+  for (const auto& [serial, timer] : running) {
+    RunningTimer& entry = timers_[serial];
+    if (entry.timer && entry.period == timer->period()) continue;
+    if (!entry.timer) {
+      entry.timer = std::make_unique<QTimer>();
+      entry.timer->setTimerType(Qt::PreciseTimer);
+      connect(entry.timer.get(), &QTimer::timeout, this, [this, timer = timer] {
+        if (!timer->InTick) act([timer] { input::tick(*timer); });
+      });
+    }
+    entry.period = timer->period();
+    entry.timer->start(entry.period);
+  }
+}
+
+void QtPlatform::note_keyboard(bool used) {
+  if (context_.keyboard_used == used) return;
+  context_.keyboard_used = used;
+  for (const auto& [window, view] : views_) view->update();
+  if (QWidget* focused = QApplication::focusWidget()) focused->update();
+}
+
+bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
+  switch (event->type()) {
+  case QEvent::MouseButtonPress:
+    if (quiet_ && window_of(object) != nullptr) return true;
+    note_keyboard(false);
+    return false;
+  case QEvent::MouseButtonRelease:
+  case QEvent::MouseMove:
+    return quiet_ && window_of(object) != nullptr;
+  case QEvent::KeyPress: {
+    if (Window* window = window_of(object)) {
+      if (quiet_) return true;
+      return key_press(*view_of(*window), static_cast<QKeyEvent&>(*event));
+    }
+    return false;
+  }
+  case QEvent::KeyRelease: {
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Alt && context_.alt_held) {
+      context_.alt_held = false;
+      for (QWidget* widget : QApplication::allWidgets()) widget->update();
+    }
+    Window* window = window_of(object);
+    if (window != nullptr && !quiet_ && !key.isAutoRepeat()) act([&] { input::key_up(*window, to_key_event(key)); });
+    return false;
+  }
+  case QEvent::FocusIn: {
+    Window* window = window_of(object);
+    const auto reason = static_cast<QFocusEvent*>(event)->reason();
+    if (window == nullptr || quiet_ || acting_ > 0 || reason != Qt::MouseFocusReason) return false;
+    Element* element = view_of(*window)->element_of(static_cast<QWidget*>(object));
+    if (element != nullptr && element->focusable()) act([element] { input::focus(*element); });
+    return false;
+  }
+  case QEvent::WindowActivate:
+    if (auto* view = dynamic_cast<WindowView*>(object); view != nullptr && view->model().visible() && !quiet_)
+      act([view] { input::activate(view->model()); });
+    return false;
+  default:
+    return false;
+  }
+}
+
+// Whether the focused widget works with the key itself.
+bool QtPlatform::native_key(const WindowView& view, const QKeyEvent& event) const {
+  const QWidget* focused = view.focusWidget();
+  if (event.key() == Qt::Key_Alt || event.key() == Qt::Key_Meta) return true;
+  return qobject_cast<const QLineEdit*>(focused) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(focused) != nullptr ||
+         qobject_cast<const QListWidget*>(focused) != nullptr || qobject_cast<const QScrollBar*>(focused) != nullptr;
+}
+
+bool QtPlatform::key_press(WindowView& view, QKeyEvent& event) {
+  if (event.key() == Qt::Key_Alt && !context_.alt_held) {
+    context_.alt_held = true;
+    for (QWidget* widget : view.findChildren<QWidget*>()) widget->update();
+  }
+  Window& window = view.model();
+  if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
+    note_keyboard(true);
+    act([&] {
+      if (Element* next = input::next_focus(window, event.key() == Qt::Key_Backtab)) input::focus(*next);
+    });
+    return true;
+  }
+  const bool arrow = event.key() >= Qt::Key_Left && event.key() <= Qt::Key_Down;
+  if (arrow || event.key() == Qt::Key_Space) note_keyboard(true);
+  const bool native = native_key(view, event);
+  const KeyEvent pressed = to_key_event(event);
+  bool follows = true;
+  // Keys without a code, such as the AltGr key, are nobody's.
+  if (pressed.code != 0 || pressed.character != 0) act([&] { follows = input::key_down(window, pressed); });
+  return !(follows && native);
+}
+
+// ---- Windows ----
+
+WindowView* QtPlatform::view_of(const Window& window) const {
+  const auto found = views_.find(&window);
+  return found == views_.end() ? nullptr : found->second.get();
+}
+
+Window* QtPlatform::active_window() const { return stack_.empty() ? nullptr : stack_.back(); }
+
+void QtPlatform::attach(Window& window) {
+  attached_.push_back(&window);
+  sync_timers();
+}
+
+void QtPlatform::detach(Window& window) {
+  hide(window);
+  attached_.erase(std::remove(attached_.begin(), attached_.end(), &window), attached_.end());
+  sync_timers();
+  // The view may be in the middle of an event of its own.
+  if (const auto found = views_.find(&window); found != views_.end()) {
+    found->second->hide();
+    found->second.release()->deleteLater();
+    views_.erase(found);
+  }
+}
+
+void QtPlatform::first_focus(Window& window) {
+  if (window.focus() == nullptr) window.set_focus(input::next_focus(window, false));
+}
+
+void QtPlatform::open_view(Window& window, bool modal) {
+  Window* before = active_window();
+  auto& view = views_[&window];
+  if (!view) view = std::make_unique<WindowView>(window, context_);
+  window.set_visible(true);
+  stack_.erase(std::remove(stack_.begin(), stack_.end(), &window), stack_.end());
+  stack_.push_back(&window);
+  first_focus(window);
+  view->sync();
+  view->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+  if (before != nullptr && before != &window && view_of(*before) != nullptr) {
+    view->winId();
+    view->windowHandle()->setTransientParent(view_of(*before)->windowHandle());
+  }
+  view->show();
+  view->raise();
+  view->activateWindow();
+  view->apply_focus();
+}
+
+void QtPlatform::show_modal(Window& window) {
+  if (ended_) return;
+  open_view(window, true);
+  sync_all();
+  QEventLoop loop;
+  // The loop looks after each event whether the window is still wanted.
+  while (window.visible() && !ended_) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  if (!ended_) sync_all();
+}
+
+void QtPlatform::show(Window& window) {
+  if (ended_) return;
+  open_view(window, false);
+}
+
+void QtPlatform::hide(Window& window) {
+  window.set_visible(false);
+  stack_.erase(std::remove(stack_.begin(), stack_.end(), &window), stack_.end());
+  if (WindowView* view = view_of(window)) view->hide();
+  if (Window* front = active_window(); front != nullptr && view_of(*front) != nullptr) {
+    view_of(*front)->activateWindow();
+  }
+}
+
+void QtPlatform::bring_to_front(Window& window) {
+  if (WindowView* view = view_of(window)) view->raise();
+}
+
+void QtPlatform::paint_now(WindowView& view) {
+  if (!view.windowHandle()->isExposed()) {
+    quiet_ = true;
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    quiet_ = false;
+  }
+  QCoreApplication::sendPostedEvents(&view, QEvent::UpdateRequest);
+}
+
+void QtPlatform::redraw(Window& window) {
+  WindowView* view = view_of(window);
+  if (view == nullptr || !window.visible()) return;
+  if (view->sync()) paint_now(*view);
+}
+
+void QtPlatform::next_frame(Window& window) {
+  was_deaf_ = was_deaf_ || !window.Enabled;
+  redraw(window);
+  const qint64 passed = frame_.elapsed();
+  if (passed < frame_ms) QThread::msleep(static_cast<unsigned long>(frame_ms - passed));
+  frame_.restart();
+}
+
+void QtPlatform::pump_events(const std::function<bool()>& until) {
+  sync_all();
+  QEventLoop loop;
+  while (!until() && !ended_) loop.processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+Size QtPlatform::screen_size() const {
+  const QSize size = QGuiApplication::primaryScreen()->availableGeometry().size();
+  return {context_.to_twips(size.width()), context_.to_twips(size.height())};
+}
+
+Size QtPlatform::chrome(const Window& window) const {
+  Size result;
+  if (window.Border != WindowBorder::None) {
+    const QSize frame = WindowView::system_frame();
+    result = {context_.to_twips(frame.width()), context_.to_twips(frame.height())};
+  }
+  const bool has_menu = std::any_of(window.elements().begin(), window.elements().end(),
+                                    [](const Element* e) { return e->kind() == ElementKind::MenuItem; });
+  if (has_menu) result.height += context_.to_twips(WindowView::menu_height(fonts_));
+  return result;
+}
+
+// ---- Pictures, sound, chance ----
+
+PicturePtr QtPlatform::load_picture(const Text& path) {
+  const QString file = files_.real_path(path);
+  const auto loaded = pictures_.picture(file);
+  if (!loaded) return nullptr;
+  const QSize size = loaded->natural_size();
+  return std::make_shared<QtPicture>(path, file, pictures_,
+                                     Size{size.width() * twips_per_pixel, size.height() * twips_per_pixel});
+}
+
+std::unique_ptr<Canvas> QtPlatform::make_canvas(Size size) {
+  return std::make_unique<QtCanvas>(size, fonts_, QGuiApplication::primaryScreen()->devicePixelRatio());
+}
+
+Media& QtPlatform::media() { return *media_; }
+
+TimeOfDay QtPlatform::time_of_day() const {
+  const QTime time = QTime::currentTime();
+  return {time.hour(), time.minute()};
+}
+
+void QtPlatform::seed_random() {
+  bool fixed = false;
+  const qulonglong seed = qEnvironmentVariable("CSERKO_SEED").toULongLong(&fixed);
+  if (!fixed) {
+    random_.seed(static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch()) ^ random_());
+  } else if (random_ == std::mt19937_64()) {
+    random_.seed(seed);
+  }
+}
+
+double QtPlatform::random() { return static_cast<double>(random_() >> 11) * 0x1.0p-53; }
+
+// ---- Other programs, messages, the end ----
+
+QString QtPlatform::helper_program(const QString& name) const {
+#ifdef Q_OS_WIN
+  const QString file = name + ".exe";
+#else
+  const QString& file = name;
+#endif
+  return QCoreApplication::applicationDirPath() + '/' + file;
+}
+
+void QtPlatform::start_process(const Text& command_line, ProcessWindow) {
+  const QString line = to_qt(command_line);
+  const qsizetype end = line.indexOf(".exe", 0, Qt::CaseInsensitive);
+  const QString named = line.left(end < 0 ? line.size() : end);
+  const QString program = helper_program(named.mid(named.lastIndexOf('\\') + 1));
+  QString argument = end < 0 ? QString() : line.mid(end + 4).trimmed();
+  const QString folder = to_qt(application_folder());
+  if (argument.startsWith(folder, Qt::CaseInsensitive)) argument = files_.real_path(from_qt(argument));
+  const QStringList arguments = argument.isEmpty() ? QStringList() : QStringList(argument);
+  if (!QFileInfo(program).isExecutable() || !QProcess::startDetached(program, arguments))
+    throw std::runtime_error(("Ez a program nem indítható el: " + QFileInfo(program).fileName()).toStdString());
+}
+
+std::optional<Text> QtPlatform::registry_value(const Text& key, const Text& name) const {
+#ifdef Q_OS_WIN
+  const QVariant value = QSettings("HKEY_LOCAL_MACHINE\\" + to_qt(key), QSettings::NativeFormat).value(to_qt(name));
+  if (value.isValid()) return from_qt(value.toString());
+#else
+  (void)key;
+  (void)name;
+#endif
+  return std::nullopt;
+}
+
+void QtPlatform::message_box(const Text& text) {
+  Window* front = active_window();
+  QMessageBox box(QMessageBox::Information, "Cserkó", lines_to_qt(text), QMessageBox::Ok,
+                  front != nullptr ? view_of(*front) : nullptr);
+  box.exec();
+}
+
+void QtPlatform::report_error(const Text& text) {
+  std::fprintf(stderr, "%s\n", lines_to_qt(text).toUtf8().constData());
+  // One box at a time, and none before there is a window that it could belong to.
+  if (reporting_ || stack_.empty() || ended_) return;
+  reporting_ = true;
+  message_box(text);
+  reporting_ = false;
+}
+
+void QtPlatform::end_process() {
+  ended_ = true;
+  for (const auto& [window, view] : views_) view->hide();
+  timers_.clear();
+  QCoreApplication::quit();
+}
+
+} // namespace cserko

@@ -1,0 +1,114 @@
+// The real machine: Qt windows, SDL sound, files on the disk.
+#pragma once
+
+#include "platform/platform.h"
+#include "platform/qt/files.h"
+#include "platform/qt/fonts.h"
+#include "platform/qt/picture_loader.h"
+#include "platform/qt/window_view.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QTimer>
+#include <random>
+#include <unordered_map>
+
+namespace cserko {
+
+class SdlMedia;
+
+class QtPlatform : public QObject, public Platform {
+ public:
+  /// Needs a QApplication.
+  QtPlatform();
+  ~QtPlatform() override;
+
+  /// Whether a data pack was found.
+  bool has_pack() const { return !files_.pack().isEmpty(); }
+  void set_window_icon(const Text& path);
+
+  /// The view of a shown window, null if it has none.
+  WindowView* view_of(const Window& window) const;
+  /// The window at the front that takes input, null if none is shown.
+  Window* active_window() const;
+  /// All visible windows, from the back to the front.
+  const std::vector<Window*>& shown_windows() const { return stack_; }
+  const Fonts& fonts() const { return fonts_; }
+  QtFiles& qt_files() { return files_; }
+  /// Shows what has changed in all visible windows.
+  void sync_all();
+
+  std::int64_t now() const override { return clock_.elapsed(); }
+  TimeOfDay time_of_day() const override;
+  void seed_random() override;
+  double random() override;
+
+  void attach(Window& window) override;
+  void detach(Window& window) override;
+  void show_modal(Window& window) override;
+  void show(Window& window) override;
+  void hide(Window& window) override;
+  void bring_to_front(Window& window) override;
+  void redraw(Window& window) override;
+  void next_frame(Window& window) override;
+  void pump_events(const std::function<bool()>& until) override;
+  Size screen_size() const override;
+  Size chrome(const Window& window) const override;
+
+  Size measure(const Font& font, TextView text) const override { return fonts_.measure(font, text); }
+  Size measure_wrapped(const Font& font, TextView text, double width) const override {
+    return fonts_.measure_wrapped(font, text, width);
+  }
+  PicturePtr load_picture(const Text& path) override;
+  std::unique_ptr<Canvas> make_canvas(Size size) override;
+
+  Media& media() override;
+  Files& files() override { return files_; }
+  Text application_folder() const override { return Text(logical_application_folder); }
+  void start_process(const Text& command_line, ProcessWindow window) override;
+  std::optional<Text> registry_value(const Text& key, const Text& name) const override;
+  void message_box(const Text& text) override;
+  void report_error(const Text& text) override;
+  void end_process() override;
+  bool ended() const override { return ended_; }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  struct RunningTimer {
+    std::unique_ptr<QTimer> timer;
+    int period = 0;
+  };
+
+  void act(const std::function<void()>& deed);
+  void sync_timers();
+  bool key_press(WindowView& view, QKeyEvent& event);
+  bool native_key(const WindowView& view, const QKeyEvent& event) const;
+  void note_keyboard(bool used);
+  void open_view(Window& window, bool modal);
+  void first_focus(Window& window);
+  void paint_now(WindowView& view);
+  void drop_queued_input();
+  QString helper_program(const QString& name) const;
+
+  QtFiles files_;
+  Fonts fonts_;
+  ViewContext context_;
+  PictureCache pictures_;
+  std::unique_ptr<SdlMedia> media_;
+  std::mt19937_64 random_;
+  QElapsedTimer clock_;
+  QElapsedTimer frame_;
+  std::vector<Window*> attached_;
+  std::vector<Window*> stack_;
+  std::unordered_map<const Window*, std::unique_ptr<WindowView>> views_;
+  std::unordered_map<std::uint64_t, RunningTimer> timers_;
+  int acting_ = 0;
+  bool quiet_ = false;    ///< Events are let through for painting alone: nothing reaches the suite.
+  bool was_deaf_ = false; ///< An animation ran while its window took no input.
+  bool reporting_ = false;
+  bool ended_ = false;
+};
+
+} // namespace cserko

@@ -1,0 +1,24 @@
+// The look of the suite on the real machine: calm and warm, one accent colour, large serif letters.
+#pragma once
+
+#include <QColor>
+
+class QApplication;
+
+namespace cserko::theme {
+
+inline constexpr QColor paper(255, 248, 231);
+inline constexpr QColor text(59, 36, 20);
+inline constexpr QColor faded_text(120, 100, 80);
+inline constexpr QColor line(170, 145, 115);
+inline constexpr QColor button(250, 236, 205);
+inline constexpr QColor button_hover(255, 244, 220);
+inline constexpr QColor button_pressed(238, 220, 184);
+inline constexpr QColor button_disabled(246, 240, 226);
+inline constexpr QColor field(255, 253, 247);
+inline constexpr QColor accent(24, 98, 94);
+
+/// Gives the application its style and colours.
+void apply();
+
+} // namespace cserko::theme

@@ -1,0 +1,29 @@
+// Shows help pages, with their pictures and with links between them. Nothing is ever fetched from elsewhere.
+#pragma once
+
+#include "viewer/help_archive.h"
+
+#include <QTextBrowser>
+
+namespace cserko {
+
+class HelpBrowser : public QTextBrowser {
+ public:
+  explicit HelpBrowser(QWidget* parent = nullptr);
+
+  /// Opens the page of a path. A missing or broken page shows a sentence that says so.
+  void open(const QString& path);
+  /// The sentence for a page that cannot be shown.
+  static QString apology(const QString& path, const QString& reason);
+
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override;
+  void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+
+ private:
+  QString load_page(const QString& path);
+
+  HelpArchive archive_;
+};
+
+} // namespace cserko
