@@ -86,6 +86,20 @@ TEST(Bitmaps, SetDibToDevMayHoldSomeRowsOnly) {
   expect_quarters(upper, kBlue, kYellow, kWhite, kWhite);
 }
 
+TEST(Bitmaps, SomeRowsMayComeWithTheOldHeaderToo) {
+  Bytes lower;
+  lower.u32(12).words({2, 2, 1, 24});
+  for (const quint32 color : {kBlue, kYellow}) lower.u8(color >> 16 & 255).u8(color >> 8 & 255).u8(color & 255);
+  lower.u16(0);
+  const auto drawn = [&](int rows, const QByteArray& dib) {
+    return draw(Wmf().window(2, 2).set_dib_to_dev(0, 0, {0, 0, 2, 2}, rows, 0, dib));
+  };
+  expect_quarters(drawn(1, lower.bytes()), kWhite, kWhite, kBlue, kYellow);
+  Bytes both(lower);
+  for (const quint32 color : {kRed, kGreen}) both.u8(color >> 16 & 255).u8(color >> 8 & 255).u8(color & 255);
+  expect_quarters(drawn(2, both.u16(0).bytes()), kRed, kGreen, kBlue, kYellow);
+}
+
 TEST(Bitmaps, NegativeSizesMirror) {
   const auto stretched = [](Wmf::Area to, Wmf::Area from) {
     return draw(start().dib_stretch_blt(rop::kSrcCopy, to, from, four()));
