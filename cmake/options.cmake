@@ -6,10 +6,6 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # This compiler takes copies inside std::string for overlapping ones where they are not.
   target_compile_options(cserko_warnings INTERFACE -Wno-restrict)
 endif()
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-  # GCC 12 sees overlapping copies in joined texts where there are none (its bug 105651).
-  target_compile_options(cserko_warnings INTERFACE -Wno-restrict)
-endif()
 
 find_program(CCACHE ccache)
 if(CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)

@@ -8,6 +8,12 @@
 
 namespace cserko {
 
-void install_exercises(Session& session) { session.offer<frm_cserkó>(u"frm_cserkó"); }
+void install_exercises(Session& session) {
+  session.offer<frm_cserkó>(u"frm_cserkó");
+  session.offer<frm_igazhamis>(u"frm_igazhamis");
+  session.offer<frm_képmemória>(u"frm_képmemória");
+  session.offer<frm_mondatkép>(u"frm_mondatkép");
+  session.offer<frm_szótagoló>(u"frm_szótagoló");
+}
 
 } // namespace cserko
