@@ -1,1 +1,240 @@
+// The four panels in which the suite speaks to the child, and the About panel.
+#include "feedback/message_panels.h"
+#include "feedback/névjegy.h"
 #include "tests/suite/suite_fixture.h"
+
+namespace cserko {
+namespace {
+
+class MessageTest : public SuiteTest {
+ protected:
+  MessageTest() {
+    put_words({u"alma", u"körte"});
+    start();
+  }
+  szövegüzenet& text_panel(TextView text) {
+    auto& panel = load<szövegüzenet>();
+    panel.szöveg.set_caption(text);
+    return panel;
+  }
+  static double space(const szövegüzenet& panel) { return panel.Command1.Top - panel.szöveg.Top - 60; }
+  double height_at(const szövegüzenet& panel, double size, double width) {
+    Font font = panel.szöveg.Font;
+    font.size = size;
+    return machine.measure_wrapped(font, panel.szöveg.Caption, width).height;
+  }
+};
+
+TEST_F(MessageTest, ThePanelsHaveTheirTitles) {
+  EXPECT_EQ(utf8(load<szövegüzenet>().Caption), "Cserkó Üzenet");
+  EXPECT_EQ(utf8(load<üzenet>().Caption), "Cserkó Üzenet");
+  EXPECT_EQ(utf8(load<frm_szövegüzenet>().Caption), "Üzenet");
+  EXPECT_EQ(utf8(load<frm_üzenet>().Caption), "Üzenet");
+}
+
+TEST_F(MessageTest, ThePanelsAreCentred) {
+  const auto is_centred = [this](const Window& panel) {
+    EXPECT_DOUBLE_EQ(panel.Left, (machine.screen_size().width - panel.Width) / 2) << utf8(panel.Name);
+    EXPECT_DOUBLE_EQ(panel.Top, (machine.screen_size().height - panel.Height) / 2) << utf8(panel.Name);
+  };
+  is_centred(load<szövegüzenet>());
+  is_centred(load<üzenet>());
+  is_centred(load<frm_szövegüzenet>());
+  is_centred(load<frm_üzenet>());
+}
+
+TEST_F(MessageTest, EveryPanelUnloadsItselfByItsButton) {
+  hand::click(open<szövegüzenet>().Command1);
+  hand::click(open<üzenet>().Command1);
+  hand::click(open<frm_szövegüzenet>().cmd_ok);
+  hand::click(open<frm_üzenet>().cmd_ok);
+  EXPECT_FALSE(session().loaded<szövegüzenet>());
+  EXPECT_FALSE(session().loaded<üzenet>());
+  EXPECT_FALSE(session().loaded<frm_szövegüzenet>());
+  EXPECT_FALSE(session().loaded<frm_üzenet>());
+}
+
+TEST_F(MessageTest, EveryPanelClosesByItsCloseControl) {
+  hand::close(open<szövegüzenet>());
+  hand::close(open<frm_üzenet>());
+  EXPECT_FALSE(session().loaded<szövegüzenet>());
+  EXPECT_FALSE(session().loaded<frm_üzenet>());
+}
+
+// szövegüzenet
+
+TEST_F(MessageTest, ATextGrowsToJustInsideItsSpace) {
+  for (const TextView text :
+       {u"Hurrá!", u"Ez egy hosszabb szöveg, amelyik több sorban fér csak el a panelen, és nagyobb."}) {
+    auto& panel = text_panel(text);
+    const double width = panel.szöveg.Width;
+    const double size = panel.szöveg.Font.size;
+    EXPECT_LT(panel.szöveg.Height, space(panel)) << utf8(text);
+    const bool next_too_high = height_at(panel, size + 1, width) >= space(panel);
+    Font next = panel.szöveg.Font;
+    next.size = size + 1;
+    const bool next_too_wide = machine.measure_wrapped(next, text, width).width > panel.inner_width() - 240;
+    EXPECT_TRUE(next_too_high || next_too_wide) << utf8(text);
+    EXPECT_DOUBLE_EQ(panel.szöveg.Height, height_at(panel, size, width));
+  }
+}
+
+TEST_F(MessageTest, TheFirstStepIsTakenBackToo) {
+  // A text that is too large even at size 8 ends at size 7.
+  auto& panel = text_panel(Text(20000, u'x'));
+  EXPECT_EQ(panel.szöveg.Font.size, 7);
+}
+
+TEST_F(MessageTest, AClickOnTheTextFitsItAnew) {
+  auto& panel = text_panel(u"Hurrá!");
+  machine.show(panel);
+  const double size = panel.szöveg.Font.size;
+  panel.szöveg.Font.size = 8;
+  hand::click(panel.szöveg);
+  EXPECT_EQ(panel.szöveg.Font.size, size);
+}
+
+// üzenet
+
+TEST_F(MessageTest, APictureMessageFitsTheCaptionThatItsCallerHasSetWhenItComesUp) {
+  auto& panel = load<üzenet>();
+  panel.üzenet_szöveg.set_caption(u"Kérlek, olvasd fel a kép nevét!");
+  panel.üzenet_szöveg.Font.size = 1;
+  then([&](Window&) {
+    const double size = panel.üzenet_szöveg.Font.size;
+    const double width = 31 * 10; // of a point, without the m of "Kérlek" there is none
+    EXPECT_EQ(utf8(panel.üzenet_szöveg.Caption), "Kérlek, olvasd fel a kép nevét!");
+    EXPECT_TRUE(width * size > 0.9 * panel.üzenet_szöveg.Width || 23 * size > 0.9 * panel.üzenet_szöveg.Height);
+    EXPECT_TRUE(width * (size - 1) <= 0.9 * panel.üzenet_szöveg.Width &&
+                23 * (size - 1) <= 0.9 * panel.üzenet_szöveg.Height);
+    hand::click(panel.Command1);
+  });
+  machine.show_modal(panel);
+}
+
+TEST_F(MessageTest, AVeryLongPictureMessageEndsAtTheFirstSizeThatOverflows) {
+  auto& panel = load<üzenet>();
+  panel.üzenet_szöveg.set_caption(Text(5000, u'x'));
+  machine.show(panel);
+  EXPECT_EQ(panel.üzenet_szöveg.Font.size, 6);
+}
+
+// frm_szövegüzenet
+
+TEST_F(MessageTest, TheTimedPanelHasTheWindowsBackgroundAndAFittedOk) {
+  auto& panel = load<frm_szövegüzenet>();
+  EXPECT_EQ(panel.pic_üzenet.BackColor, panel.BackColor);
+  EXPECT_EQ(utf8(panel.cmd_ok.Caption), "Ok");
+}
+
+TEST_F(MessageTest, ATimedTextClosesAfterItsTime) {
+  szöveges_üzenet(session(), u"Nyomtatok.", 40);
+  EXPECT_EQ(machine.now(), 4000);
+  EXPECT_FALSE(session().loaded<frm_szövegüzenet>());
+}
+
+TEST_F(MessageTest, ATimedTextShowsItsTextInThePictureBox) {
+  then_in<frm_szövegüzenet>([](frm_szövegüzenet& panel) {
+    const auto texts = drawn(panel.pic_üzenet).texts();
+    ASSERT_EQ(texts.size(), 1U);
+    EXPECT_EQ(utf8(texts[0]), "Nyomtatok.");
+    hand::click(panel.cmd_ok);
+  });
+  szöveges_üzenet(session(), u"Nyomtatok.", 40);
+}
+
+TEST_F(MessageTest, ATimedTextReturnsAtTheMomentItIsClosedByHand) {
+  then_in<frm_szövegüzenet>([this](frm_szövegüzenet& panel) {
+    machine.advance(1500);
+    hand::click(panel.cmd_ok);
+  });
+  szöveges_üzenet(session(), u"Nyomtatok.", 150);
+  EXPECT_EQ(machine.now(), 1500);
+}
+
+TEST_F(MessageTest, WithTimeZeroTheTextStaysUntilItsButtonIsPressed) {
+  then_in<frm_szövegüzenet>([this](frm_szövegüzenet& panel) {
+    machine.advance(3600000);
+    EXPECT_TRUE(panel.visible());
+    hand::click(panel.cmd_ok);
+  });
+  szöveges_üzenet(session(), u"Nyomtatok.", 0);
+}
+
+TEST_F(MessageTest, TheLongestTimeIs327Tenths) {
+  szöveges_üzenet(session(), u"x", 327);
+  EXPECT_EQ(machine.now(), 32700);
+  EXPECT_THROW(szöveges_üzenet(session(), u"x", 328), InvalidValue);
+}
+
+TEST_F(MessageTest, AnEmptyTextIsReplaced) {
+  then_in<frm_szövegüzenet>([](frm_szövegüzenet& panel) {
+    EXPECT_EQ(utf8(panel.pic_üzenet.Tag), "Kéne írni ide valamit!");
+    hand::click(panel.cmd_ok);
+  });
+  szöveges_üzenet(session(), {}, 0);
+}
+
+// frm_üzenet
+
+TEST_F(MessageTest, TheNamePanelFitsItsButtonAtLoad) {
+  auto& panel = load<frm_üzenet>();
+  const double size = panel.cmd_ok.Font.size;
+  EXPECT_TRUE(20 * size > 0.9 * panel.cmd_ok.Width || 23 * size > 0.9 * panel.cmd_ok.Height);
+}
+
+// About.
+
+constexpr TextView tool_key = u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+constexpr TextView location_key = u"SOFTWARE\\Microsoft\\Shared Tools Location";
+
+class AboutTest : public MessageTest {
+ protected:
+  void registry(TextView key, TextView name, TextView value) { machine.registry[{Text(key), Text(name)}] = value; }
+  std::string started() {
+    hand::click(open<Névjegy>().cmdSysInfo);
+    return machine.processes.empty() ? "(none)" : utf8(machine.processes[0].command_line);
+  }
+};
+
+TEST_F(AboutTest, TellsNameVersionAndPurpose) {
+  auto& about = load<Névjegy>();
+  EXPECT_EQ(utf8(about.Caption), "Névjegy: Cserkó");
+  EXPECT_EQ(utf8(about.lblTitle.Caption), "Cserkó");
+  EXPECT_EQ(utf8(about.lblVersion.Caption), CSERKO_VERSION " verzió");
+  EXPECT_EQ(utf8(about.lblDescription.Caption),
+            "Játékos gyakorlatok dyslexia kezelésére, olvasás- és nyelvtanítás céljaira.");
+  EXPECT_EQ(utf8(about.cmdSysInfo.Caption), "&System Info...");
+}
+
+TEST_F(AboutTest, OkUnloadsIt) {
+  hand::click(open<Névjegy>().cmdOK);
+  EXPECT_FALSE(session().loaded<Névjegy>());
+}
+
+TEST_F(AboutTest, StartsTheToolOfTheRegistry) {
+  registry(tool_key, u"PATH", u"c:\\tools\\info.exe");
+  EXPECT_EQ(started(), "c:\\tools\\info.exe");
+  EXPECT_EQ(machine.processes[0].window, ProcessWindow::Normal);
+}
+
+TEST_F(AboutTest, ElseTheToolOfTheSharedFolderIfItIsThere) {
+  registry(location_key, u"MSINFO", u"c:\\shared");
+  machine.files().put(u"c:\\shared\\MSINFO32.EXE", "tool");
+  EXPECT_EQ(started(), "c:\\shared\\MSINFO32.EXE");
+}
+
+TEST_F(AboutTest, SaysSoWhereThereIsNoTool) {
+  registry(location_key, u"MSINFO", u"c:\\shared");
+  EXPECT_EQ(started(), "(none)");
+  ASSERT_EQ(machine.messages.size(), 1U);
+  EXPECT_EQ(utf8(machine.messages[0]), "System Information Is Unavailable At This Time");
+}
+
+TEST_F(AboutTest, SaysSoWhereThereIsNoRegistry) {
+  EXPECT_EQ(started(), "(none)");
+  EXPECT_EQ(machine.messages.size(), 1U);
+}
+
+} // namespace
+} // namespace cserko

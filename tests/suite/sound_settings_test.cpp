@@ -315,9 +315,9 @@ TEST_F(SoundDialogTest, ThePlayButtonPlaysTheSelectedFile) {
 TEST_F(SoundDialogTest, ButtonsFollowTheSelections) {
   put_lists();
   auto& d = dialog();
-  for (const Button* button : {&d.cmd_gartula, &d.cmd_helyeshang_add, &d.cmd_hibahang_add, &d.cmd_play,
-                               &d.cmd_hangtörlése, &d.cmd_hangtörl_gratulahangból, &d.cmd_hangtörl_helyeshangból,
-                               &d.cmd_hangtörl_hibahangból}) {
+  for (const Button* button :
+       {&d.cmd_gartula, &d.cmd_helyeshang_add, &d.cmd_hibahang_add, &d.cmd_play, &d.cmd_hangtörlése,
+        &d.cmd_hangtörl_gratulahangból, &d.cmd_hangtörl_helyeshangból, &d.cmd_hangtörl_hibahangból}) {
     EXPECT_FALSE(button->Enabled) << utf8(button->Name);
   }
   hand::select(d.Filelist, 0);
