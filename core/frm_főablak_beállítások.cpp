@@ -25,6 +25,8 @@ void frm_főablak_beállítások::Load() {
   chk_grafikus_főablak.Enabled = session().offers(u"frm_grafikus_főablak");
 }
 
+void frm_főablak_beállítások::apply() { write_order_file(*this); }
+
 void read_order_file(frm_főablak_beállítások& settings) {
   if (const auto bytes = settings.platform().files().read(Text(order_file)))
     read_fields(order_fields(settings), *bytes);

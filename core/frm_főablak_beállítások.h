@@ -15,6 +15,10 @@ class frm_főablak_beállítások : public SettingsDialog {
   Button OKButton{*this, u"OKButton", {1440, 1980, 1800, 660}, u"OK"};
 
   void Load() override;
+
+ protected:
+  /// Brings the older store up to date as well, or the main window's next activation would undo the choice.
+  void apply() override;
 };
 
 /// The older store of the two options of the decoration. The last exit's file beats the settings file, which is

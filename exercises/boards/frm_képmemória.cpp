@@ -92,7 +92,7 @@ void frm_képmemória::Load() {
 void frm_képmemória::Unload() { session().unload(settings()); }
 
 void frm_képmemória::lay_out_cards() {
-  szöveg_illesztés(Label_feladat);
+  for (Label* line : {&Label_feladat, &időkijelző, &labszópárok[0]}) szöveg_illesztés(*line);
   const PictureBox& first = kép[0];
   for (int i = 1; i < places; ++i) {
     PictureBox& card = kép[i];

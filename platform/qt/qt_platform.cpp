@@ -10,7 +10,6 @@
 
 #include <QApplication>
 #include <QDateTime>
-#include <QEventLoop>
 #include <QFileInfo>
 #include <QIcon>
 #include <QLineEdit>
@@ -83,6 +82,20 @@ void QtPlatform::act(const std::function<void()>& deed) {
   if (ended_) return;
   if (std::exchange(was_deaf_, false)) drop_queued_input();
   sync_all();
+  leave_finished_loops();
+}
+
+void QtPlatform::leave_finished_loops() {
+  for (const RunningLoop& running : loops_) {
+    if ((*running.done)()) running.loop->quit();
+  }
+}
+
+void QtPlatform::run_loop(const std::function<bool()>& done) {
+  QEventLoop loop;
+  loops_.push_back({&loop, &done});
+  while (!done() && !ended_) loop.exec();
+  loops_.pop_back();
 }
 
 void QtPlatform::drop_queued_input() {
@@ -100,6 +113,11 @@ void QtPlatform::sync_all() {
   sync_timers();
 }
 
+void QtPlatform::DeleteLater::operator()(QTimer* timer) const {
+  timer->stop();
+  timer->deleteLater();
+}
+
 void QtPlatform::sync_timers() {
   std::unordered_map<std::uint64_t, Timer*> running;
   for (const Window* window : attached_) {
@@ -113,7 +131,7 @@ void QtPlatform::sync_timers() {
     RunningTimer& entry = timers_[serial];
     if (entry.timer && entry.period == timer->period()) continue;
     if (!entry.timer) {
-      entry.timer = std::make_unique<QTimer>();
+      entry.timer.reset(new QTimer);
       entry.timer->setTimerType(Qt::PreciseTimer);
       connect(entry.timer.get(), &QTimer::timeout, this, [this, timer = timer] {
         if (!timer->InTick) act([timer] { input::tick(*timer); });
@@ -260,9 +278,7 @@ void QtPlatform::show_modal(Window& window) {
   if (ended_) return;
   open_view(window, true);
   sync_all();
-  QEventLoop loop;
-  // The loop looks after each event whether the window is still wanted.
-  while (window.visible() && !ended_) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  run_loop([&window] { return !window.visible(); });
   if (!ended_) sync_all();
 }
 
@@ -309,8 +325,7 @@ void QtPlatform::next_frame(Window& window) {
 
 void QtPlatform::pump_events(const std::function<bool()>& until) {
   sync_all();
-  QEventLoop loop;
-  while (!until() && !ended_) loop.processEvents(QEventLoop::WaitForMoreEvents);
+  run_loop(until);
 }
 
 Size QtPlatform::screen_size() const {

@@ -8,6 +8,7 @@
 #include "platform/qt/window_view.h"
 
 #include <QElapsedTimer>
+#include <QEventLoop>
 #include <QObject>
 #include <QTimer>
 #include <random>
@@ -76,12 +77,23 @@ class QtPlatform : public QObject, public Platform {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
+  /// A timer may be stopped for good by its own tick: it goes when that is over.
+  struct DeleteLater {
+    void operator()(QTimer* timer) const;
+  };
   struct RunningTimer {
-    std::unique_ptr<QTimer> timer;
+    std::unique_ptr<QTimer, DeleteLater> timer;
     int period = 0;
+  };
+  /// An event loop that runs until its condition holds, which is looked at after every deed.
+  struct RunningLoop {
+    QEventLoop* loop;
+    const std::function<bool()>* done;
   };
 
   void act(const std::function<void()>& deed);
+  void run_loop(const std::function<bool()>& done);
+  void leave_finished_loops();
   void sync_timers();
   bool key_press(WindowView& view, QKeyEvent& event);
   bool native_key(const WindowView& view, const QKeyEvent& event) const;
@@ -102,6 +114,7 @@ class QtPlatform : public QObject, public Platform {
   QElapsedTimer frame_;
   std::vector<Window*> attached_;
   std::vector<Window*> stack_;
+  std::vector<RunningLoop> loops_;
   std::unordered_map<const Window*, std::unique_ptr<WindowView>> views_;
   std::unordered_map<std::uint64_t, RunningTimer> timers_;
   int acting_ = 0;
