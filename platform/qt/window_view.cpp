@@ -238,7 +238,7 @@ bool WindowView::sync_menu() {
     // The key stands beside the entry as text alone: keys are handled in one place for all controls.
     QString text = to_qt(item.Caption);
     if (item.ShortcutKey >= key::f1) text += "\tF" + QString::number(item.ShortcutKey - key::f1 + 1);
-    action.setText(text);
+    if (!action.isSeparator()) action.setText(text);
     action.setEnabled(item.Enabled);
     action.setVisible(item.Visible);
     action.setCheckable(item.Checked || action.isCheckable());
