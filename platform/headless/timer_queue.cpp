@@ -8,7 +8,7 @@ namespace cserko {
 
 void TimerQueue::detach(Window& window) {
   windows_.erase(std::remove(windows_.begin(), windows_.end(), &window), windows_.end());
-  const auto belongs = [&window](const Entry& entry) { return &entry.timer->window() == &window; };
+  const auto belongs = [&window](const Entry& entry) { return entry.window == &window; };
   entries_.erase(std::remove_if(entries_.begin(), entries_.end(), belongs), entries_.end());
 }
 
@@ -31,7 +31,8 @@ void TimerQueue::compare(std::int64_t now) {
       if (!timer.running() || !timer.Tick) continue;
       const Entry* before = find(timer.serial());
       const bool as_before = before != nullptr && before->period == timer.period();
-      entries.push_back({&timer, timer.serial(), timer.period(), as_before ? before->due : now + timer.period()});
+      entries.push_back(
+          {window, &timer, timer.serial(), timer.period(), as_before ? before->due : now + timer.period()});
     }
   }
   entries_ = std::move(entries);

@@ -33,7 +33,8 @@ class TimerQueue {
 
  private:
   struct Entry {
-    Timer* timer;
+    const Window* window;
+    Timer* timer; // only as good as the last `compare`: the timer may be gone since
     std::uint64_t serial;
     int period;
     std::int64_t due;
