@@ -12,7 +12,7 @@
 namespace cserko {
 namespace {
 
-constexpr int kColumns = 16, kPictureSide = 110, kCellWidth = 124, kCellHeight = 150;
+constexpr int kColumns = 16, kPictureSide = 110, kCellWidth = 124, kCellHeight = 166;
 constexpr QRgb kPaper = qRgb(251, 244, 226);
 
 QImage picture_of(const QString& path) {
