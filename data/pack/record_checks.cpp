@@ -38,11 +38,12 @@ QStringList words_of(const QString& text) {
   return text.split(between, Qt::SkipEmptyParts);
 }
 
-// Endings change the last vowel of a stem: alma, almát; kefe, kefét.
-QString stem_of(const QString& name) {
-  QString stem = name.toLower();
-  if (stem.size() > kShortName && vowels.contains(stem.back())) stem.chop(1);
-  return stem;
+// Endings lengthen a last a or e: alma, almát; kefe, kefét.
+QStringList stems_of(const QString& name) {
+  QString lengthened = name;
+  if (name.endsWith('a')) lengthened.back() = QChar(u'á');
+  if (name.endsWith('e')) lengthened.back() = QChar(u'é');
+  return lengthened == name ? QStringList{name} : QStringList{name, lengthened};
 }
 
 // A short name is the start of many words that have nothing to do with it (kar, karika), so for these only the common
@@ -166,9 +167,9 @@ bool one_vowel_each(const QString& syllables) {
 }
 
 bool names_itself(const QString& name, const QString& text) {
-  const QString stem = stem_of(name);
-  for (const QString& word : words_of(text.toLower()))
-    if (word.startsWith(stem) && (stem.size() > kShortName || common_ending(word.mid(stem.size())))) return true;
+  for (const QString& stem : stems_of(name.toLower()))
+    for (const QString& word : words_of(text.toLower()))
+      if (word.startsWith(stem) && (stem.size() > kShortName || common_ending(word.mid(stem.size())))) return true;
   return false;
 }
 
