@@ -38,9 +38,9 @@ bool szó_a_szótárban(std::string_view bytes, TextView word) {
     LineReader lines = reader_at(bytes, middle);
     if (!lines.end()) lines.next(); // may be the tail of a word
     if (lines.end()) {
-      // The last line has been reached: it bounds the search from above.
-      if (middle >= high) break;
-      high = middle;
+      // The last line has been reached: it bounds the search from above, and it may start just here.
+      if (middle + 1 >= high) break;
+      high = middle + 1;
       continue;
     }
     const Text line = from_cp1250(lines.next());
