@@ -50,6 +50,14 @@ TEST(Text, AtTheCurrentPositionItMovesIt) {
   EXPECT_NEAR(both.right() - one.right(), 40 * 0.72, 2);
 }
 
+TEST(Text, EndingAtTheCurrentPositionItMovesItBack) {
+  const QRect one = ink(seen(start().text_align(kRight | kBaseline).text_out(150, 100, "H")));
+  const QRect both = ink(
+      seen(start().text_align(kUpdate | kRight | kBaseline).move_to(150, 100).text_out(0, 0, "H").text_out(0, 0, "H")));
+  EXPECT_EQ(both.right(), one.right());
+  EXPECT_NEAR(one.left() - both.left(), 40 * 0.72, 2);
+}
+
 TEST(Text, PositiveHeightIsThatOfTheLine) {
   const auto height = [](int h) {
     return ink(seen(Wmf().window(200, 200).font(h, "Times New Roman").select(0).bk_mode(1).text_out(10, 10, "H")))

@@ -2,6 +2,7 @@
 #include "drawing.h"
 
 #include <QElapsedTimer>
+#include <numbers>
 #include <random>
 
 namespace cserko::test {
@@ -86,8 +87,8 @@ TEST(Traps, RoughFillMatchesTheSmoothOne) {
   // The same star, once alone and once so often that it goes without smoothing (an odd number of times).
   QList<QPoint> star;
   for (int i = 0; i < 5; ++i) {
-    star.append({static_cast<int>(500 + 450 * std::sin(i * 4 * M_PI / 5)),
-                 static_cast<int>(500 - 450 * std::cos(i * 4 * M_PI / 5))});
+    star.append({static_cast<int>(500 + 450 * std::sin(i * 4 * std::numbers::pi / 5)),
+                 static_cast<int>(500 - 450 * std::cos(i * 4 * std::numbers::pi / 5))});
   }
   for (const int mode : {1, 2}) {
     const QImage smooth = draw(start().fills(kRed).fill_mode(mode).polygon(star), kSide, kSide);

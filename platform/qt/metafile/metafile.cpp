@@ -21,8 +21,10 @@ constexpr double kDotsPerInch = 96;
 constexpr int kTwipsPerInch = 1440; ///< units of a box that does not name its own
 constexpr double kUnknownSide = 512;
 
+} // namespace
+
 /// What the state records say about the page, read ahead of playing.
-struct Survey {
+struct WmfSurvey {
   std::optional<QSizeF> window;
   std::optional<QSizeF> viewport;     ///< with its signs
   std::optional<QSizeF> drawn_window; ///< window extent in force at the first drawing record
@@ -31,6 +33,10 @@ struct Survey {
   bool needs_paper = false;
 };
 
+namespace {
+
+double box_units(const WmfHeader& header) { return header.units_per_inch > 0 ? header.units_per_inch : kTwipsPerInch; }
+
 std::optional<QSizeF> extent_of(const WmfRecord& r) {
   if (r.words() < 2 || r.s16(0) == 0 || r.s16(1) == 0) return std::nullopt;
   return QSizeF(r.s16(1), r.s16(0));
@@ -38,8 +44,8 @@ std::optional<QSizeF> extent_of(const WmfRecord& r) {
 
 QSizeF absolute(QSizeF size) { return {std::abs(size.width()), std::abs(size.height())}; }
 
-Survey survey(WmfReader reader) {
-  Survey result;
+WmfSurvey survey(WmfReader reader) {
+  WmfSurvey result;
   std::optional<QSizeF> window;
   int map_mode = result.map_mode;
   bool drawing = false;
@@ -103,37 +109,41 @@ QSizeF with_limited_aspect(QSizeF size) {
 
 } // namespace
 
+bool Metafile::lay_out_page(const WmfHeader& header, const WmfSurvey& found) {
+  const double fixed = units_per_inch(found.map_mode);
+  bool known = true;
+  if (fixed > 0) {
+    known = header.box.has_value();
+    page_.rect = QRectF(QPointF(0, 0), known ? QSizeF(header.box->size()) : QSizeF(1, 1));
+    if (known) page_.fixed_unit = box_units(header) / fixed;
+  } else if (found.viewport) {
+    page_.rect = QRectF(found.viewport_org.value_or(QPointF(0, 0)), *found.viewport).normalized();
+  } else if (found.window) {
+    page_.rect = QRectF(QPointF(0, 0), *found.window);
+  } else if (header.box) {
+    page_.rect = QRectF(QPointF(0, 0), QSizeF(header.box->size()));
+    page_.window_org = header.box->topLeft();
+  } else {
+    known = false;
+    page_.rect = QRectF(0, 0, 1, 1);
+  }
+  page_.viewport = page_.rect.size();
+  page_.window = found.window.value_or(page_.rect.size());
+  return known;
+}
+
 std::optional<Metafile> Metafile::parse(const QByteArray& bytes) {
   const std::optional<WmfHeader> header = read_wmf_header(bytes);
   if (!header) return std::nullopt;
   const WmfReader reader(bytes, header->first_record);
-  const Survey found = survey(reader);
+  const WmfSurvey found = survey(reader);
 
   Metafile metafile;
   metafile.bytes_ = bytes;
   metafile.first_record_ = header->first_record;
   metafile.needs_paper_ = found.needs_paper;
   Page& page = metafile.page_;
-  const double fixed = units_per_inch(found.map_mode);
-  const double box_units = header->units_per_inch > 0 ? header->units_per_inch : kTwipsPerInch;
-  bool known = true;
-  if (fixed > 0) {
-    known = header->box.has_value();
-    page.rect = QRectF(QPointF(0, 0), known ? QSizeF(header->box->size()) : QSizeF(1, 1));
-    if (known) page.fixed_unit = box_units / fixed;
-  } else if (found.viewport) {
-    page.rect = QRectF(found.viewport_org.value_or(QPointF(0, 0)), *found.viewport).normalized();
-  } else if (found.window) {
-    page.rect = QRectF(QPointF(0, 0), *found.window);
-  } else if (header->box) {
-    page.rect = QRectF(QPointF(0, 0), QSizeF(header->box->size()));
-    page.window_org = header->box->topLeft();
-  } else {
-    known = false;
-    page.rect = QRectF(0, 0, 1, 1);
-  }
-  page.viewport = page.rect.size();
-  page.window = found.window.value_or(page.rect.size());
+  const bool known = metafile.lay_out_page(*header, found);
 
   WmfBudget budget(kMeasureMilliseconds);
   WmfCanvas measure(nullptr, budget);
@@ -143,13 +153,15 @@ std::optional<Metafile> Metafile::parse(const QByteArray& bytes) {
   const bool on_page = known && touches(page.rect, measure.bounds());
   if (!on_page) page.rect = page_of_bounds(measure.bounds());
 
+  QSizeF natural;
   if (header->box) {
-    metafile.natural_size_ = QSizeF(header->box->size()) * kDotsPerInch / box_units;
+    natural = QSizeF(header->box->size()) * kDotsPerInch / box_units(*header);
   } else {
-    const QSizeF shape = on_page && fixed == 0 ? found.drawn_window.value_or(page.window) : page.rect.size();
-    metafile.natural_size_ = shape * kUnknownSide / std::max(shape.width(), shape.height());
+    const bool by_window = on_page && units_per_inch(found.map_mode) == 0;
+    const QSizeF shape = by_window ? found.drawn_window.value_or(page.window) : page.rect.size();
+    natural = shape * kUnknownSide / std::max(shape.width(), shape.height());
   }
-  metafile.natural_size_ = with_limited_aspect(metafile.natural_size_);
+  metafile.natural_size_ = with_limited_aspect(natural);
   return metafile;
 }
 

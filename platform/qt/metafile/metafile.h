@@ -11,6 +11,9 @@ class QPainter;
 
 namespace cserko {
 
+struct WmfHeader;
+struct WmfSurvey;
+
 /// How a picture is laid into a rectangle of another shape.
 enum class PictureFit {
   KeepAspect, ///< as large as fits, centred; the rest of the rectangle stays untouched (transparent)
@@ -64,6 +67,8 @@ class Metafile {
   friend class Player;
 
   Metafile() = default;
+  /// Sets up the page; false when the file does not say where it lies.
+  bool lay_out_page(const WmfHeader& header, const WmfSurvey& found);
   QImage play(QSize size) const;
 
   QByteArray bytes_;

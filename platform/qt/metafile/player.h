@@ -190,6 +190,8 @@ class Player {
   struct TextRun;
   struct TextFont;
   TextFont text_font();
+  /// The outlines of the letters in font units, and how far they advance.
+  QPainterPath letters(const TextRun& run, const TextFont& font, double& width) const;
   void draw_text(const TextRun& run);
   void draw_text_measured(const TextRun& run, QPointF at);
 

@@ -74,10 +74,10 @@ Player::TextFont Player::text_font() {
   constexpr double kDefaultHeight = 16; // device pixels
   double height = kDefaultHeight;
   if (wanted.height < 0) height = -wanted.height * std::abs(scale_y_);
-  if (wanted.height > 0) height = wanted.height * std::abs(scale_y_) * kOutlineSize / metrics.height();
+  if (wanted.height > 0) height = wanted.height * std::abs(scale_y_) * kOutlineSize / std::max(metrics.height(), 1.0);
   result.scale_y = height / kOutlineSize;
   result.scale_x = result.scale_y * (wanted.height == 0 ? 1 : std::abs(scale_x_ / scale_y_));
-  if (wanted.width > 0) result.scale_x = wanted.width * std::abs(scale_x_) / metrics.averageCharWidth();
+  if (wanted.width > 0) result.scale_x = wanted.width * std::abs(scale_x_) / std::max(metrics.averageCharWidth(), 1.0);
   return result;
 }
 
@@ -87,51 +87,59 @@ void Player::draw_text_measured(const TextRun& run, QPointF at) {
   canvas_.note(QRectF(at, QSizeF(height / 2 * static_cast<double>(run.text.size()), height)));
 }
 
+QPainterPath Player::letters(const TextRun& run, const TextFont& font, double& width) const {
+  QPainterPath path;
+  path.setFillRule(Qt::WindingFill);
+  const QFontMetricsF metrics(font.font);
+  if (run.advances.isEmpty() && state_.char_extra == 0 && state_.break_extra == 0) {
+    path.addText(0, 0, font.font, run.text);
+    width = metrics.horizontalAdvance(run.text);
+    return path;
+  }
+  const double to_font = std::abs(scale_x_) / font.scale_x; // logical units to font units along the line
+  width = 0;
+  for (qsizetype i = 0; i < run.text.size() && !budget_.spent(); ++i) {
+    const QChar letter = run.text[i];
+    path.addText(width, 0, font.font, QString(letter));
+    if (i < run.advances.size()) {
+      width += run.advances[i] * to_font;
+    } else {
+      width += metrics.horizontalAdvance(letter) + state_.char_extra * to_font;
+      if (letter == QLatin1Char(' ')) width += state_.break_extra * to_font;
+    }
+  }
+  return path;
+}
+
 void Player::draw_text(const TextRun& run) {
   const bool update = (state_.text_align & kUpdatePosition) != 0;
   const QPointF at = map(update ? state_.position : run.at);
   if (run.text.isEmpty()) return;
   if (canvas_.measuring()) return draw_text_measured(run, at);
-  if (qGuiApp == nullptr || !budget_.take_points(run.text.size() * 32)) return;
+  constexpr qsizetype kPointsALetter = 32;
+  if (qGuiApp == nullptr || !budget_.take_points(run.text.size() * kPointsALetter)) return;
   const TextFont font = text_font();
+  double width = 0;
+  const QPainterPath path = letters(run, font, width);
+
   const QFontMetricsF metrics(font.font);
-  const double to_font = std::abs(scale_x_) / font.scale_x; // logical units to font units along the line
-  QPainterPath path;
-  path.setFillRule(Qt::WindingFill);
-  double x = 0;
-  const bool plain = run.advances.isEmpty() && state_.char_extra == 0 && state_.break_extra == 0;
-  if (plain) {
-    path.addText(0, 0, font.font, run.text);
-    x = metrics.horizontalAdvance(run.text);
-  } else {
-    for (qsizetype i = 0; i < run.text.size() && !budget_.spent(); ++i) {
-      const QChar letter = run.text[i];
-      path.addText(x, 0, font.font, QString(letter));
-      if (i < run.advances.size()) {
-        x += run.advances[i] * to_font;
-      } else {
-        x += metrics.horizontalAdvance(letter) + state_.char_extra * to_font;
-        if (letter == QLatin1Char(' ')) x += state_.break_extra * to_font;
-      }
-    }
-  }
-  const int across = state_.text_align & kCenter;
-  const double left = across == kCenter ? -x / 2 : across == kRight ? -x : 0;
-  const int upright = state_.text_align & kBaseline;
+  const int across = state_.text_align & kCenter, upright = state_.text_align & kBaseline;
+  const double left = across == kCenter ? -width / 2 : across == kRight ? -width : 0;
   const double base = upright == kBaseline ? 0 : upright == kBottom ? -metrics.descent() : metrics.ascent();
-  QTransform to_device;
-  to_device.translate(at.x(), at.y());
-  to_device.rotate(-state_.font.escapement / 10.0);
-  to_device.scale(font.scale_x, font.scale_y);
-  to_device.translate(left, base);
-  const QRectF cell(0, -metrics.ascent(), x, metrics.ascent() + metrics.descent());
+  QTransform turned;
+  turned.rotate(-state_.font.escapement / 10.0);
+  turned.scale(font.scale_x, font.scale_y);
+  const QTransform to_device =
+      QTransform::fromTranslate(left, base) * turned * QTransform::fromTranslate(at.x(), at.y());
   if (state_.opaque_background) {
+    const QRectF cell(0, -metrics.ascent(), width, metrics.ascent() + metrics.descent());
     canvas_.fill({to_device.map(QPolygonF(cell))}, true, state_.background_color);
   }
-  const QList<QPolygonF> letters = path.toSubpathPolygons(to_device);
-  canvas_.fill(Outline(letters.begin(), letters.end()), true, state_.text_color);
+  const QList<QPolygonF> outlines = path.toSubpathPolygons(to_device);
+  canvas_.fill(Outline(outlines.begin(), outlines.end()), true, state_.text_color);
   if (!update) return;
-  const QPointF moved = to_device.map(QPointF(x - left, -base)) - to_device.map(QPointF(-left, -base));
+  // Text that ends at its point moves it back to its beginning; centred text leaves it.
+  const QPointF moved = turned.map(QPointF(across == kCenter ? 0 : across == kRight ? -width : width, 0));
   state_.position += QPointF(moved.x() / scale_x_, moved.y() / scale_y_);
 }
 
