@@ -360,6 +360,20 @@ TEST_F(RecordsTest, EveryRecordButTheLastComesUp) {
   EXPECT_EQ(counts[19], 0);
 }
 
+TEST_F(RecordsTest, ARoundedDrawReachesTheLastRecordAndBothEndsHalfAsOften) {
+  put_numbered(5);
+  load();
+  platform.script_random({0, 0.124, 0.125, 0.126, 0.375, 0.874, 0.875, 0.999});
+  const auto any = [](int) { return true; };
+  std::vector<int> drawn;
+  for (int i = 0; i < 8; ++i)
+    drawn.push_back(records.draw(platform, any, Records::general_advice, Records::Reach::WithLast));
+  EXPECT_EQ(drawn, (std::vector<int>{0, 0, 0, 1, 2, 3, 4, 4})) << "a half goes to the even neighbour";
+  EXPECT_EQ(records.draw(
+                platform, [](int index) { return index == 4; }, Records::general_advice, Records::Reach::WithLast),
+            4);
+}
+
 TEST_F(RecordsTest, AnErrorInTheFilterReachesTheCaller) {
   put_numbered(5);
   load();

@@ -110,6 +110,16 @@ TEST_F(Elements, UpDownWritesItsNumberIntoTheBuddy) {
   EXPECT_EQ(updown.clamped(-5), 4);
 }
 
+TEST_F(Elements, UpDownMayShowItsNumberInOtherWords) {
+  TextBox buddy(window, u"txt", {});
+  UpDown updown(window, u"ud", {}, buddy, {4, 13, 1}, 12);
+  updown.Format = [](int value) { return value == 13 ? Text(u"bármennyi") : to_text(value); };
+  updown.set_value(13);
+  EXPECT_EQ(buddy.text(), u"bármennyi");
+  updown.set_value(5);
+  EXPECT_EQ(buddy.text(), u"5");
+}
+
 TEST_F(Elements, ListBoxClicksForEverySelectionAlsoOfTheSameEntry) {
   ListBox list(window, u"lst", {});
   list.Items = {u"a", u"b", u"c"};
@@ -280,18 +290,72 @@ TEST_F(Arrays, PassTheIndexToTheirHandlers) {
   EXPECT_EQ(clicked, (std::vector<int>{102, 2, 100, 0}));
 }
 
+/// A label that tells when it is destroyed.
+class MortalLabel : public Label {
+ public:
+  MortalLabel(Parent parent, TextView name, Rect place) : Label(parent, name, place) {}
+  ~MortalLabel() override {
+    if (destroyed != nullptr) ++*destroyed;
+  }
+  int* destroyed = nullptr;
+};
+
 TEST_F(Arrays, AnElementThatUnloadsItselfLivesUntilItsEventIsOver) {
-  lbl_szó.load(1).Visible = true;
-  show();
-  Label* self = &lbl_szó[1];
-  lbl_szó.MouseDown = [&](int index, const MouseEvent&) {
-    lbl_szó.unload(index);
-    EXPECT_EQ(window.find(u"lbl_szó", 1), nullptr);
-    self->Caption = u"still there"; // the sanitizers would tell
+  ElementArray<MortalLabel> letters(window, u"betű", {0, 0, 300, 300});
+  int destroyed = 0;
+  MortalLabel& letter = letters.load(1);
+  letter.Visible = true;
+  letter.destroyed = &destroyed;
+  letters.MouseDown = [&](int index, const MouseEvent&) {
+    letters.unload(index);
+    EXPECT_EQ(window.find(u"betű", 1), nullptr);
+    EXPECT_EQ(destroyed, 0);
     log.push_back("down");
   };
-  hand::click(*self);
+  show();
+  hand::click(letter);
   EXPECT_EQ(log, Log{"down"});
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST_F(Arrays, AnElementThatIsUnloadedBetweenEventsIsDestroyedAtOnce) {
+  ElementArray<MortalLabel> letters(window, u"betű", {0, 0, 300, 300});
+  int destroyed = 0;
+  letters.load(1).destroyed = &destroyed;
+  letters.unload(1);
+  EXPECT_EQ(destroyed, 1);
+}
+
+TEST_F(Arrays, MayStartAtAnotherIndex) {
+  ElementArray<Label> lbl_óra(window, u"lbl_óra", FirstIndex{1}, {0, 0, 300, 300});
+  EXPECT_FALSE(lbl_óra.loaded(0));
+  lbl_óra[1].Tag = u"design";
+  EXPECT_EQ(lbl_óra.load(2).Tag, u"design");
+  EXPECT_THROW(lbl_óra.unload(1), InvalidValue);
+  lbl_óra.unload(2);
+  EXPECT_EQ(lbl_óra.count(), 1);
+}
+
+TEST_F(Arrays, ArePutAtTheirDesignPlacesInOrder) {
+  lbl_szó.design_places({{10, 20}, {30, 40}, {50, 60}});
+  EXPECT_EQ(lbl_szó.count(), 3);
+  EXPECT_EQ(lbl_szó[0].Left, 10);
+  EXPECT_EQ(lbl_szó[2].Top, 60);
+  EXPECT_TRUE(lbl_szó[2].Visible);
+}
+
+TEST_F(Arrays, PassKeysWithTheIndex) {
+  lbl_szó[0].Choosable = true;
+  Label& second = lbl_szó.load(1);
+  second.Visible = true;
+  EXPECT_TRUE(second.Choosable);
+  lbl_szó.KeyDown = [this](int index, KeyEvent& event) {
+    log.push_back(std::to_string(index) + " " + std::to_string(event.code));
+  };
+  show();
+  input::focus(second);
+  hand::key(window, 'K');
+  EXPECT_EQ(log.front(), "1 75");
 }
 
 TEST_F(Arrays, VisitTheirElementsInOrderOfIndex) {

@@ -198,6 +198,34 @@ TEST_F(Keys, SpaceTicksTheFocusedCheckBox) {
   EXPECT_EQ(box.value(), 1);
 }
 
+TEST_F(Keys, SpaceAndEnterClickWhatCanBeChosen) {
+  PictureBox box(window, u"kép", {0, 2000, 900, 900});
+  Label choice(window, u"lbl_válasz", {0, 3000, 900, 300}, u"igen");
+  choice.Choosable = true;
+  box.Click = noting("picture");
+  choice.Click = noting("label");
+  show();
+  input::focus(box);
+  hand::key(window, key::space);
+  EXPECT_EQ(log[1], "picture");
+  log.clear();
+  hand::key(window, key::tab);
+  EXPECT_EQ(window.focus(), &choice);
+  hand::key(window, key::enter);
+  EXPECT_EQ(log[3], "label");
+}
+
+TEST_F(Keys, EnterIsTheDefaultButtonsAlsoOnWhatCanBeChosen) {
+  PictureBox box(window, u"kép", {0, 2000, 900, 900});
+  box.Click = noting("picture");
+  button.Default = true;
+  button.Click = noting("button");
+  show();
+  input::focus(box);
+  hand::key(window, key::enter);
+  EXPECT_EQ(log[1], "button");
+}
+
 TEST_F(Keys, ADisabledWindowHearsNone) {
   window.KeyPreview = true;
   show();

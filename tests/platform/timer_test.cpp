@@ -63,6 +63,15 @@ TEST_F(Timers, ANewIntervalCountsFromTheEventThatSetIt) {
   EXPECT_EQ(times, (std::vector<std::int64_t>{100, 400, 700}));
 }
 
+TEST_F(Timers, ANewIntervalSetFromOutsideStartsOver) {
+  Timer timer(window, u"Timer1", 100);
+  timer.Tick = noting_time();
+  platform.advance(50);
+  timer.Interval = 300;
+  platform.advance(350);
+  EXPECT_EQ(times, std::vector<std::int64_t>{350});
+}
+
 TEST_F(Timers, TheShortestIntervalsAreIdleWork) {
   Timer timer(window, u"Timer1", 1);
   timer.Tick = noting_time();
@@ -81,6 +90,13 @@ TEST_F(Timers, DoNotFireInsideTheirOwnHandler) {
   };
   platform.advance(600);
   EXPECT_EQ(times, (std::vector<std::int64_t>{100, 500, 600})) << "what was missed is not made up for";
+}
+
+TEST_F(Timers, AHandlerThatWaitsForItsOwnTimerIsStuckAtOnce) {
+  Timer timer(window, u"Timer1", 100);
+  timer.Tick = [&] { platform.pump_events([] { return false; }); };
+  EXPECT_THROW(platform.advance(1000), Stuck);
+  EXPECT_EQ(platform.now(), 100);
 }
 
 TEST_F(Timers, ATickWithinATickIsRefusedByEveryMachine) {
