@@ -374,6 +374,16 @@ TEST_F(RecordsTest, ARoundedDrawReachesTheLastRecordAndBothEndsHalfAsOften) {
             4);
 }
 
+TEST_F(RecordsTest, TheGuardOfARoundedDrawAsksTheLastRecordToo) {
+  put_numbered(5);
+  load();
+  std::vector<double> numbers(1000, 0.1);
+  numbers.push_back(0.999);
+  platform.script_random(numbers);
+  const auto last = [](int index) { return index == 4; };
+  EXPECT_EQ(records.draw(platform, last, Records::general_advice, Records::Reach::WithLast), 4);
+}
+
 TEST_F(RecordsTest, AnErrorInTheFilterReachesTheCaller) {
   put_numbered(5);
   load();

@@ -103,6 +103,7 @@ TEST_F(Keys, AHandlerKeepsAKeyByMakingItsCodeZero) {
 TEST_F(Keys, AKeyThatClosesTheWindowGoesNoFurther) {
   window.KeyPreview = true;
   window.on_key = [this](KeyEvent&) { platform.hide(window); };
+  text.KeyDown = [this](KeyEvent&) { log.push_back("text"); };
   button.Default = true;
   button.Click = noting("click");
   show();
