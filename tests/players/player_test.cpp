@@ -10,11 +10,7 @@ namespace {
 class PlayerTest : public SuiteTest {
  protected:
   PlayerTest() {
-    put_words({u"alma",  u"körte", u"szilva",  u"dzsem",    u"kutya",   u"asztal", u"kos",    u"sok",
-               u"papír", u"mamut", u"vonat",   u"csillag",  u"egér",    u"ló",     u"gyöngy", u"medve",
-               u"madár", u"róka",  u"tűzoltó", u"pillangó", u"szamóca", u"bab",    u"nadrág", u"utolsó"});
-    put_app_file(u"ms.skt", u"alam\rlepke\rmalac\r");
-    put_app_file(u"dicskép\\1.wmf");
+    put_sample_pack(machine.files());
     start();
   }
 

@@ -85,20 +85,7 @@ void SuiteTest::TearDown() {
   EXPECT_EQ(machine.errors.size(), expected_errors) << (machine.errors.empty() ? "" : utf8(machine.errors.back()));
 }
 
-void SuiteTest::put_word(const Word& word) {
-  const Text number = to_text(++records_);
-  const Text& name = word.név;
-  const auto or_else = [](const Text& text, const Text& otherwise) { return text.empty() ? otherwise : text; };
-  Text content;
-  for (const Text& line :
-       {u"1-" + number, name, Text(u"x"), or_else(word.angol, u"the " + name), or_else(word.szótagolt, name),
-        name + u" meghatározása.", name + u" igaz állítása.", name + u" hamis állítása."}) {
-    content += line + u"\r\n";
-  }
-  const Text base = Text(app) + u"kepek\\" + number;
-  machine.files().put(base + u".wms", to_cp1250(content));
-  if (word.has_picture) machine.files().put(base + u".wmf", "picture");
-}
+void SuiteTest::put_word(const Word& word) { put_record(machine.files(), ++records_, word); }
 
 void SuiteTest::put_words(std::initializer_list<TextView> names) {
   for (const TextView name : names) put_word({Text(name)});

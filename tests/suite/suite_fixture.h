@@ -7,21 +7,11 @@
 #include "feedback/feedback.h"
 #include "platform/headless/hand.h"
 #include "platform/headless/headless_platform.h"
+#include "tests/suite/memory_pack.h"
 
 #include <gtest/gtest.h>
 
 namespace cserko {
-
-/// Fields of one record; those left empty get a text made from the name.
-struct Word {
-  Text név;
-  Text angol{};
-  Text szótagolt{};
-  bool has_picture = true;
-};
-
-inline constexpr TextView app = u"c:\\cserko\\";
-inline constexpr TextView user_folder = u"c:\\pomzu\\cserko\\";
 
 /// What a window of the test itself looks like: an empty one with a button, for places where the suite opens a window
 /// that it is offered by name.

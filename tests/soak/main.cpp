@@ -1,0 +1,70 @@
+// Plays the whole suite with random events on the headless machine, as many runs of the program as it takes. Nothing
+// may be reported, nothing may escape, and there must always be a way back to the main window.
+//
+// Usage: cserko_soak [EVENTS [SEED]]
+#include "core/session.h"
+#include "exercises/exercises.h"
+#include "feedback/feedback.h"
+#include "tests/players/cserkó_player.h"
+#include "tests/players/headless_hand.h"
+#include "tests/soak/restless_person.h"
+#include "tests/suite/memory_pack.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace {
+
+using namespace cserko;
+
+// What was on the disk when a run ended is there in the next one.
+void copy_files(const MemoryFiles& from, MemoryFiles& to) {
+  for (const Text& path : from.all()) to.put(path, from.read(path).value_or(""));
+}
+
+// One run of the program, from its start until the person leaves or has had enough. False if anything was reported.
+bool run(HeadlessPlatform& machine, RestlessPerson& person) {
+  person.sit_down(machine);
+  Session session(machine);
+  install_feedback(session);
+  install_exercises(session);
+  HeadlessHand hand(machine);
+  std::optional<CserkóPlayer> player;
+  person.sensible = [&](Window& top) {
+    if (!player) player.emplace(session, CserkóPlayer::Mode::Mouse, 3);
+    return player->step(top, hand);
+  };
+  session.Main();
+  for (const Text& error : machine.errors) std::cerr << "reported: " << to_utf8(error) << '\n';
+  for (const Text& text : machine.messages) std::cerr << "message box: " << to_utf8(text) << '\n';
+  return machine.errors.empty();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const int events = argc > 1 ? std::atoi(argv[1]) : 100000;
+  const auto seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : std::random_device{}();
+  std::cout << "cserko_soak " << events << ' ' << seed << std::endl;
+  RestlessPerson person(seed, events);
+  MemoryFiles disk;
+  put_sample_pack(disk);
+  int runs = 0;
+  while (person.events_left() > 0) {
+    HeadlessPlatform machine;
+    machine.set_seed(seed + static_cast<std::uint64_t>(++runs));
+    copy_files(disk, machine.files());
+    try {
+      if (!run(machine, person)) return EXIT_FAILURE;
+    } catch (const std::exception& error) {
+      std::cerr << "after " << events - person.events_left() << " events, run " << runs << ": " << error.what() << '\n';
+      return EXIT_FAILURE;
+    }
+    disk = MemoryFiles();
+    copy_files(machine.files(), disk);
+  }
+  for (const auto& [window, count] : person.events_by_window())
+    std::cout << "  " << to_utf8(window) << ": " << count << '\n';
+  std::cout << events << " events in " << runs << " runs of the program: nothing was reported\n";
+  return EXIT_SUCCESS;
+}
