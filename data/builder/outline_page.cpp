@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <cstring>
 #include <functional>
 #include <map>
 #include <utility>
@@ -179,6 +180,8 @@ class AreaMap {
 QImage to_page(const std::vector<bool>& black) {
   QImage page(kPageSide, kPageSide, QImage::Format_Mono);
   page.setColorTable({qRgb(0, 0, 0), qRgb(255, 255, 255)});
+  std::memset(page.bits(), 0,
+              static_cast<size_t>(page.sizeInBytes())); // the spare bits behind each row, too: all go to file
   for (int pixel = 0; pixel < kPixels; ++pixel)
     page.setPixel(pixel % kPageSide, pixel / kPageSide, black[static_cast<size_t>(pixel)] ? 0 : 1);
   return page;
