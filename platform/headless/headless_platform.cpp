@@ -21,9 +21,7 @@ bool is_picture_name(const Text& path) {
 
 } // namespace
 
-HeadlessPlatform::HeadlessPlatform() : media_(files_, [this] { return clock_; }) {
-  files_.put_folder(application_folder());
-}
+HeadlessPlatform::HeadlessPlatform() : media_(files_, [this] { return clock_; }) { files_.put_folder(Text(folder)); }
 
 TimeOfDay HeadlessPlatform::time_of_day() const {
   constexpr int minutes_a_day = 24 * 60;

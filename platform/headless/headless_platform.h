@@ -92,10 +92,11 @@ class HeadlessPlatform : public Platform {
   /// Number of pictures that were asked for.
   int picture_loads = 0;
 
-  static constexpr double frame_width = 90;   ///< Twips that the frame adds to the width.
-  static constexpr double title_height = 450; ///< Twips that frame and title bar add to the height.
-  static constexpr double menu_height = 375;  ///< Twips that a menu bar adds.
-  static constexpr int frame_time = 16;       ///< Milliseconds of a display frame.
+  static constexpr TextView folder = u"c:\\cserko\\"; ///< The application folder.
+  static constexpr double frame_width = 90;           ///< Twips that the frame adds to the width.
+  static constexpr double title_height = 450;         ///< Twips that frame and title bar add to the height.
+  static constexpr double menu_height = 375;          ///< Twips that a menu bar adds.
+  static constexpr int frame_time = 16;               ///< Milliseconds of a display frame.
 
   std::int64_t now() const override { return clock_; }
   TimeOfDay time_of_day() const override;
@@ -122,7 +123,7 @@ class HeadlessPlatform : public Platform {
   RecordedMedia& media() override { return media_; }
   MemoryFiles& files() override { return files_; }
   const MemoryFiles& files() const { return files_; }
-  Text application_folder() const override { return u"c:\\cserko\\"; }
+  Text application_folder() const override { return Text(folder); }
   void start_process(const Text& command_line, ProcessWindow window) override;
   std::optional<Text> registry_value(const Text& key, const Text& name) const override;
   void message_box(const Text& text) override { messages.push_back(text); }
