@@ -138,6 +138,11 @@ void frm_főablak::új_kép() {
 
 void frm_főablak::Timer1_tick() {
   if (settings().rajz.ticked()) {
+    // The option may have been set while a picture was shown: the drawing begins on an empty panel.
+    if (!lbldisz.Caption.empty()) {
+      clear_picture(dísz);
+      lbldisz.Caption.clear();
+    }
     drawing.tick(dísz);
   } else {
     show_slide();

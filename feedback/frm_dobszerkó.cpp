@@ -29,7 +29,6 @@ Color complement(Color color) {
 frm_dobszerkó::frm_dobszerkó(Session& session)
     : Window(session.platform(), u"frm_dobszerkó", {9720, 5640}, u"Cserkó - Dobszerkó"), session_(session) {
   KeyPreview = true;
-  Label1.Opaque = true;
   design_keys();
   billentyű.Click = [this](int index) { strike(index); };
   Timer_ablakbezárás.Tick = [this] {
@@ -101,6 +100,7 @@ void frm_dobszerkó::fit_big_letter() {
 void frm_dobszerkó::strike(int index) {
   const Label& key = billentyű[index];
   Label1.Caption = Text(1, static_cast<char16_t>(index));
+  Label1.Opaque = true;
   Label1.BackColor = key.ForeColor;
   Label1.ForeColor = key.BackColor;
   // The whole window flashes in the colour of the key: no paper hides it.

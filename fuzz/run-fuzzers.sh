@@ -16,7 +16,7 @@ for program in "$build"/fuzz_*; do
   corpus=$out/$target
   mkdir -p "$corpus"
   set -- "$corpus"
-  for seeds in "$sources"/*/seeds/"$target"; do [ -d "$seeds" ] && set -- "$@" "$seeds"; done
+  for seeds in "$sources"/*/seeds/"$target" "$build"/seeds/"$target"; do [ -d "$seeds" ] && set -- "$@" "$seeds"; done
   for words in "$sources"/*/"$target".dict; do [ -f "$words" ] && set -- -dict="$words" "$@"; done
   echo "$target: $seconds s"
   if ! "$program" -max_total_time="$seconds" -timeout=10 -artifact_prefix="$corpus/" -print_final_stats=1 "$@" \
