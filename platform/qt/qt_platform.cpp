@@ -434,7 +434,7 @@ void QtPlatform::end_process() {
   ended_ = true;
   for (const auto& [window, view] : views_) view->hide();
   timers_.clear();
-  QCoreApplication::quit();
+  for (const RunningLoop& running : loops_) running.loop->quit();
 }
 
 } // namespace cserko

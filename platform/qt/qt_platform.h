@@ -38,6 +38,8 @@ class QtPlatform : public QObject, public Platform {
   QtFiles& qt_files() { return files_; }
   /// Shows what has changed in all visible windows.
   void sync_all();
+  /// Runs something the user did, then shows what it changed; modal shows whose window it has closed return.
+  void act(const std::function<void()>& deed);
 
   std::int64_t now() const override { return clock_.elapsed(); }
   TimeOfDay time_of_day() const override;
@@ -91,7 +93,6 @@ class QtPlatform : public QObject, public Platform {
     const std::function<bool()>* done;
   };
 
-  void act(const std::function<void()>& deed);
   void run_loop(const std::function<bool()>& done);
   void leave_finished_loops();
   void sync_timers();
