@@ -1,0 +1,87 @@
+#include "tests/tour/guide.h"
+
+#include "tests/tour/camera.h"
+
+#include <QDir>
+#include <QTimer>
+
+namespace cserko::tour {
+
+namespace {
+
+constexpr int pace = 20;        // ms between two looks at the screen
+constexpr int patience = 20000; // ms until a stop counts as never reached
+
+} // namespace
+
+Guide::Guide(WatchedPlatform& platform, QString folder) : platform_(platform), folder_(std::move(folder)) {}
+
+void Guide::act(TextView window, std::function<void(Window&)> deed, std::function<bool(Window&)> ready) {
+  stops_.push_back({Text(window), std::move(deed), std::move(ready)});
+}
+
+void Guide::picture(TextView window, const std::string& name, bool moving) {
+  const auto ready = moving ? std::function<bool(Window&)>() : [this](Window& seen) { return stands_still(seen); };
+  act(
+      window, [this, name](Window& seen) { look_at(seen, name); }, ready);
+}
+
+bool Guide::stands_still(Window& window) {
+  const QImage seen = take_picture(*platform_.view_of(window));
+  const bool still = seen == last_seen_;
+  last_seen_ = seen;
+  return still;
+}
+
+void Guide::look_at(Window& window, const std::string& name) {
+  const QWidget* widget = platform_.view_of(window);
+  if (widget == nullptr) return fault(name + ": the window is not on the screen");
+  const Photograph photograph(take_picture(*widget),
+                              platform_.client_corner(window) - widget->frameGeometry().topLeft(),
+                              platform_.fonts().scale());
+  const QString number = QStringLiteral("%1").arg(++pictures_, 2, 10, QLatin1Char('0'));
+  photograph.image().save(folder_ + QLatin1Char('/') + number + QLatin1Char('-') + QString::fromStdString(name) +
+                          QStringLiteral(".png"));
+  for (const std::string& what : photograph.faults(window)) fault(name + ": " + what);
+  for (const std::string& what : tour::faults(window, {dialogs.count(window.Name) != 0, intended}))
+    fault(name + ": " + what);
+}
+
+void Guide::start() {
+  QDir().mkpath(folder_);
+  waiting_.start();
+  schedule();
+}
+
+void Guide::schedule() {
+  QTimer::singleShot(pace, this, [this] { turn(); });
+}
+
+void Guide::turn() {
+  if (platform_.ended()) return;
+  if (next_ == stops_.size()) return platform_.end_process();
+  const Stop stop = stops_[next_];
+  Window* front = platform_.active_window();
+  const bool there = front != nullptr && front->Name == stop.window && platform_.settled(*front);
+  if (!there || (stop.ready && !stop.ready(*front))) {
+    if (waiting_.elapsed() > patience) return give_up(stop);
+    return schedule();
+  }
+  ++next_;
+  waiting_.restart();
+  last_seen_ = QImage();
+  // What the stop does may show a window and return only when that one is gone: the next stop is waited for before.
+  schedule();
+  platform_.act([&] { stop.deed(*front); });
+}
+
+void Guide::give_up(const Stop& stop) {
+  const Window* front = platform_.active_window();
+  fault("stop " + std::to_string(next_ + 1) + " was not reached: " + to_utf8(stop.window) +
+        " should be at the front, where " + (front == nullptr ? "nothing" : to_utf8(front->Name)) + " is");
+  platform_.end_process();
+}
+
+void Guide::fault(const std::string& what) { faults_.push_back(what); }
+
+} // namespace cserko::tour

@@ -1,0 +1,62 @@
+// Leads through the stops of the tour: waits until the window of a stop is at the front and stands still, looks at it,
+// takes its picture, and does what leads to the next.
+#pragma once
+
+#include "tests/tour/checks.h"
+#include "tests/x11/watched_platform.h"
+
+#include <QElapsedTimer>
+#include <QImage>
+#include <QObject>
+#include <functional>
+#include <set>
+
+namespace cserko::tour {
+
+class Guide : public QObject {
+ public:
+  /// Pictures go into the folder.
+  Guide(WatchedPlatform& platform, QString folder);
+
+  /// The overlaps that are meant to be, for all stops.
+  std::vector<Overlap> intended;
+  /// Windows that keep their design size and must fit a low screen.
+  std::set<Text> dialogs;
+
+  /// A stop that acts, once the window of that name is at the front and the condition holds.
+  void act(TextView window, std::function<void(Window&)> deed, std::function<bool(Window&)> ready = {});
+  /// A stop that looks at the window and takes its picture. `moving`: it never stands still.
+  void picture(TextView window, const std::string& name, bool moving = false);
+
+  /// Looks at a window that is shown outside the stops, as the progress window, which lets no event happen.
+  void look_at(Window& window, const std::string& name);
+
+  /// Starts to lead; ends the program behind the last stop, or when a stop is not reached.
+  void start();
+  const std::vector<std::string>& faults() const { return faults_; }
+  int pictures() const { return pictures_; }
+
+ private:
+  struct Stop {
+    Text window;
+    std::function<void(Window&)> deed;
+    std::function<bool(Window&)> ready;
+  };
+
+  void schedule();
+  void turn();
+  bool stands_still(Window& window);
+  void give_up(const Stop& stop);
+  void fault(const std::string& what);
+
+  WatchedPlatform& platform_;
+  QString folder_;
+  std::vector<Stop> stops_;
+  std::size_t next_ = 0;
+  std::vector<std::string> faults_;
+  QElapsedTimer waiting_;
+  QImage last_seen_;
+  int pictures_ = 0;
+};
+
+} // namespace cserko::tour

@@ -1,0 +1,154 @@
+#include "tests/tour/story.h"
+
+#include "core/frame.h"
+#include "core/frm_főablak.h"
+#include "feedback/frm_gratuláció.h"
+#include "feedback/frm_hangbeáll.h"
+#include "feedback/message_panels.h"
+#include "feedback/névjegy.h"
+#include "platform/input.h"
+#include "tests/tour/scrambled_word_stops.h"
+
+#include <algorithm>
+
+namespace cserko::tour {
+
+namespace {
+
+constexpr TextView main_window = u"frm_főablak";
+
+constexpr TextView long_text =
+    u"Ez a szó sajnos nem szerepel az általam használt adatbázisban. Nézd meg még egyszer jól a betűket, olvasd el "
+    u"lassan, és próbáld meg más sorrendben kirakni! Ha nem megy, kérj segítséget!";
+
+template<class W> W& as(Window& window) { return static_cast<W&>(window); }
+
+void lay_out_main_window(Guide& guide, Session& session) {
+  guide.picture(main_window, "main-slide-show", true);
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).dísz); });
+  guide.act(main_window, [](Window& window) { as<frm_főablak>(window).cserélő = 20; });
+  guide.picture(main_window, "main-next-slide", true);
+  guide.act(main_window, [&session](Window& window) {
+    session.window<frm_főablak_beállítások>().Chkcserkózás.set_value(1);
+    as<frm_főablak>(window).cserélő = 21;
+  });
+  guide.act(
+      main_window, [](Window&) {}, [](Window& window) { return as<frm_főablak>(window).cserélő < 21; });
+  guide.picture(main_window, "main-letters-swapped", true);
+}
+
+void lay_out_figures(Guide& guide, Session& session) {
+  constexpr TextView settings = u"frm_főablak_beállítások";
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_főablak_beállításai); });
+  guide.picture(settings, "main-settings");
+  guide.act(settings, [](Window& window) {
+    auto& dialog = as<frm_főablak_beállítások>(window);
+    input::toggle(dialog.rajz);
+    input::click(dialog.OKButton);
+  });
+  for (int figure = 0; figure < LineDrawing::figures; ++figure) {
+    guide.act(main_window, [figure](Window& window) {
+      auto& main = as<frm_főablak>(window);
+      input::click(main.dísz);
+      main.drawing.alak = static_cast<std::int16_t>(figure);
+      main.drawing.szürke = 0;
+      const int ticks = figure < 7 ? 28 : 400;
+      for (int i = 0; i < ticks; ++i) input::tick(main.Timer1);
+    });
+    guide.picture(main_window, "main-figure-" + std::to_string(figure), true);
+  }
+  guide.act(main_window, [&session](Window&) { session.window<frm_főablak_beállítások>().rajz.set_value(0); });
+}
+
+void lay_out_sounds(Guide& guide) {
+  constexpr TextView sounds = u"frm_hangbeáll";
+  guide.act(main_window,
+            [](Window& window) { input::click(as<frm_főablak>(window).mnu_file_eseményhangok_beállításai); });
+  guide.picture(sounds, "event-sounds");
+  guide.act(sounds, [](Window& window) {
+    auto& dialog = as<frm_hangbeáll>(window);
+    input::select(dialog.Filelist, 0);
+    input::click(dialog.cmd_helyeshang_add);
+    input::select(dialog.lst_gratulahang, 0);
+  });
+  guide.picture(sounds, "event-sounds-selected");
+  guide.act(sounds, [](Window& window) { input::click(as<frm_hangbeáll>(window).cmd_mégsem); });
+}
+
+// A window of the menu that another one than this tour knows the insides of.
+void lay_out_entry(Guide& guide, const Session& session, TextView window, MenuItem frm_főablak::*entry,
+                   const std::string& name) {
+  if (!session.offers(window)) return;
+  guide.act(main_window, [entry](Window& main) { input::click(as<frm_főablak>(main).*entry); });
+  guide.picture(window, name);
+  guide.act(window, [](Window& shown) { input::close(shown); });
+}
+
+template<class Panel>
+void lay_out_panel(Guide& guide, Session& session, TextView name, const std::string& picture,
+                   std::function<void(Panel&)> fill, Button Panel::*button) {
+  guide.act(main_window, [&session, fill](Window&) {
+    auto& panel = session.window<Panel>();
+    fill(panel);
+    session.platform().show_modal(panel);
+  });
+  guide.picture(name, picture);
+  guide.act(name, [button](Window& window) { input::click(as<Panel>(window).*button); });
+}
+
+void lay_out_timed_panel(Guide& guide, Session& session, const std::string& picture, TextView text) {
+  constexpr TextView name = u"frm_szövegüzenet";
+  guide.act(main_window, [&session, text](Window&) { szöveges_üzenet(session, Text(text), 0); });
+  guide.picture(name, picture);
+  guide.act(name, [](Window& window) { input::click(as<frm_szövegüzenet>(window).cmd_ok); });
+}
+
+void lay_out_panels(Guide& guide, Session& session) {
+  const auto text_panel = [&](const std::string& picture, TextView text) {
+    lay_out_panel<szövegüzenet>(
+        guide, session, u"szövegüzenet", picture, [text](szövegüzenet& panel) { panel.szöveg.set_caption(text); },
+        &szövegüzenet::Command1);
+  };
+  text_panel("panel-short-text", u"Ügyes!");
+  text_panel("panel-long-text", long_text);
+  const auto picture_panel = [&](const std::string& picture, TextView text) {
+    lay_out_panel<üzenet>(
+        guide, session, u"üzenet", picture,
+        [&session, text](üzenet& panel) {
+          panel.üzenet_kép.Picture = session.platform().load_picture(session.képek[0].wmf);
+          panel.üzenet_szöveg.set_caption(text);
+        },
+        &üzenet::Command1);
+  };
+  picture_panel("picture-panel", u"Kérlek, olvasd fel a kép nevét!");
+  picture_panel("picture-panel-long-text", long_text);
+  lay_out_timed_panel(guide, session, "timed-panel", u"Nyomtatok.");
+  lay_out_timed_panel(guide, session, "timed-panel-long-text", u"Gyere, játszunk egy kicsit újra a betűkkel!");
+  lay_out_timed_panel(guide, session, "timed-panel-without-text", u"");
+  lay_out_panel<frm_üzenet>(
+      guide, session, u"frm_üzenet", "named-picture-panel",
+      [&session](frm_üzenet& panel) {
+        panel.kép.Picture = session.platform().load_picture(session.képek[0].wmf);
+        szöveg_illesztés(panel.név, Text(session.képek[0].név));
+      },
+      &frm_üzenet::cmd_ok);
+  lay_out_panel<Névjegy>(
+      guide, session, u"Névjegy", "about", [](Névjegy&) {}, &Névjegy::cmdOK);
+}
+
+} // namespace
+
+void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
+  guide.dialogs = {u"frm_főablak_beállítások", u"frm_hangbeáll", u"frm_zenebeáll", u"frm_cserkó_beáll", u"Névjegy"};
+  lay_out_main_window(guide, session);
+  lay_out_figures(guide, session);
+  lay_out_sounds(guide);
+  lay_out_entry(guide, session, u"frm_zenebeáll", &frm_főablak::mnu_fájl_zenebeállítások, "music");
+  lay_out_entry(guide, session, u"frm_dobszerkó", &frm_főablak::mnu_jutalomjáték_dobolás, "drum");
+  lay_out_entry(guide, session, u"frm_rajz", &frm_főablak::mnu_jutalom_rajz, "drawing");
+  lay_out_panels(guide, session);
+  lay_out_scrambled_word(guide, session, platform);
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_kilépés); });
+}
+
+} // namespace cserko::tour

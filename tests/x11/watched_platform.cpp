@@ -1,0 +1,49 @@
+#include "tests/x11/watched_platform.h"
+
+#include <QWindow>
+#include <cmath>
+#include <stdexcept>
+
+namespace cserko {
+
+bool WatchedPlatform::settled(const Window& window) const {
+  const WindowView* view = view_of(window);
+  return view != nullptr && active_window() == &window && view->isActiveWindow() && view->windowHandle()->isExposed();
+}
+
+QPoint WatchedPlatform::client_corner(const Window& window) const {
+  const WindowView* view = view_of(window);
+  if (view == nullptr) throw std::logic_error("the window is not on the screen");
+  for (const Element* element : window.elements()) {
+    const QWidget* widget = element->container() == nullptr ? view->widget_of(*element) : nullptr;
+    if (widget != nullptr) return widget->parentWidget()->mapToGlobal(QPoint(0, 0));
+  }
+  return view->mapToGlobal(QPoint(0, 0));
+}
+
+QPoint WatchedPlatform::place_on_screen(const Element& element, Point point) const {
+  const WindowView* view = view_of(element.window());
+  const QWidget* widget = view != nullptr ? view->widget_of(element) : nullptr;
+  if (widget == nullptr) throw std::logic_error("the element is not on the screen: " + to_utf8(element.Name));
+  const double scale = fonts().scale();
+  return widget->mapToGlobal(
+      QPoint(static_cast<int>(std::lround(point.x * scale)), static_cast<int>(std::lround(point.y * scale))));
+}
+
+double WatchedPlatform::random() {
+  if (chance.empty()) return QtPlatform::random();
+  const double next = chance.front();
+  chance.pop_front();
+  return next;
+}
+
+PicturePtr WatchedPlatform::load_picture(const Text& path) {
+  return missing_pictures.count(path) != 0 ? nullptr : QtPlatform::load_picture(path);
+}
+
+void WatchedPlatform::redraw(Window& window) {
+  QtPlatform::redraw(window);
+  if (redrawn) redrawn(window);
+}
+
+} // namespace cserko

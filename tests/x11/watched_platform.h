@@ -1,0 +1,35 @@
+// The real machine under the eyes of a test: it knows where a window stands on the screen, and lets the test choose
+// what chance brings.
+#pragma once
+
+#include "platform/qt/qt_platform.h"
+
+#include <QPoint>
+#include <deque>
+#include <functional>
+#include <set>
+
+namespace cserko {
+
+class WatchedPlatform : public QtPlatform {
+ public:
+  /// What `random` gives next; then the machine's own numbers follow.
+  std::deque<double> chance;
+  /// Pictures that count as missing, by their path.
+  std::set<Text> missing_pictures;
+  /// Called behind each redraw that the suite asks for.
+  std::function<void(Window&)> redrawn;
+
+  /// Whether the window is on the screen, at the front, and has the keyboard.
+  bool settled(const Window& window) const;
+  /// Where the client area of a shown window begins on the screen, pixels.
+  QPoint client_corner(const Window& window) const;
+  /// Where a point of an element (twips, its own coordinates) lies on the screen, pixels.
+  QPoint place_on_screen(const Element& element, Point point) const;
+
+  double random() override;
+  PicturePtr load_picture(const Text& path) override;
+  void redraw(Window& window) override;
+};
+
+} // namespace cserko
