@@ -32,7 +32,6 @@ class ElementWidget : public QWidget {
   ElementWidget(QWidget* parent, Element& element, ViewContext& context)
       : QWidget(parent), element_(element), context_(context) {
     setMouseTracking(true);
-    if (element.focusable()) setFocusPolicy(Qt::ClickFocus);
   }
 
  protected:
@@ -223,7 +222,6 @@ template<class Native, QStyle::PrimitiveElement mark> class TickWidget : public 
   TickWidget(QWidget* parent, Element& element, ViewContext& context)
       : Native(parent), element_(element), context_(context) {
     this->setFocusPolicy(Qt::ClickFocus);
-    this->setAutoExclusive(false);
     QObject::connect(this, &QAbstractButton::clicked, this,
                      [this] { context_.act([&to = element_] { input::click(to); }); });
   }
@@ -284,7 +282,11 @@ class OptionView : public View {
   bool sync_content() override {
     if (value_ == option_.value()) return false;
     value_ = option_.value();
-    static_cast<QRadioButton&>(widget()).setChecked(value_);
+    // Qt's own group, by which it tells a screen reader of an option, must not turn others on or off.
+    auto& native = static_cast<QRadioButton&>(widget());
+    native.setAutoExclusive(false);
+    native.setChecked(value_);
+    native.setAutoExclusive(true);
     return true;
   }
 
@@ -337,6 +339,26 @@ class LineWidget : public QWidget {
   ViewContext& context_;
 };
 
+class LineView : public View {
+ public:
+  LineView(Line& line, ViewContext& context, QWidget* parent)
+      : View(line, context, new LineWidget(parent, line, context)), line_(line) {}
+
+ protected:
+  bool sync_content() override {
+    const bool differs = width_ != line_.BorderWidth || rising_ != line_.Rising;
+    width_ = line_.BorderWidth;
+    rising_ = line_.Rising;
+    if (differs) widget().update();
+    return differs;
+  }
+
+ private:
+  Line& line_;
+  double width_ = twips_per_pixel;
+  bool rising_ = false;
+};
+
 } // namespace
 
 std::unique_ptr<View> make_view(Element& element, ViewContext& context, QWidget* parent) {
@@ -354,7 +376,7 @@ std::unique_ptr<View> make_view(Element& element, ViewContext& context, QWidget*
   case ElementKind::Frame:
     return std::make_unique<View>(element, context, new FrameWidget(parent, element, context));
   case ElementKind::Line:
-    return std::make_unique<View>(element, context, new LineWidget(parent, static_cast<Line&>(element), context));
+    return std::make_unique<LineView>(static_cast<Line&>(element), context, parent);
   case ElementKind::Timer:
   case ElementKind::MenuItem:
     return nullptr;

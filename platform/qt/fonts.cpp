@@ -43,7 +43,9 @@ Size Fonts::measure(const Font& font, TextView text) const {
     width = std::max(width, metrics.horizontalAdvance(line));
     ++lines;
   }
-  return {std::ceil(width / scale_), std::ceil(lines * metrics.lineSpacing() / scale_)};
+  // As text is painted: the font's leading stands between lines, not behind the last one.
+  const double height = metrics.height() + (lines - 1) * metrics.lineSpacing();
+  return {std::ceil(width / scale_), std::ceil(height / scale_)};
 }
 
 Size Fonts::measure_wrapped(const Font& font, TextView text, double width) const {

@@ -4,7 +4,7 @@
 #include "platform/qt/theme.h"
 #include "platform/qt/view.h"
 
-#include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPainter>
@@ -92,10 +92,24 @@ class UpDownWidget : public QWidget {
   }
 };
 
+/// Getting the focus selects nothing: only the user chooses.
+class ListNative : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override {
+    const QSignalBlocker quiet(this);
+    const int row = currentRow();
+    QListWidget::focusInEvent(event);
+    setCurrentRow(row);
+  }
+};
+
 class ListView : public View {
  public:
   ListView(ListBox& list, ViewContext& context, QWidget* parent)
-      : View(list, context, new QListWidget(parent)), list_(list), native_(static_cast<QListWidget&>(widget())) {
+      : View(list, context, new ListNative(parent)), list_(list), native_(static_cast<QListWidget&>(widget())) {
     native_.setFocusPolicy(Qt::ClickFocus);
     native_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     native_.setTextElideMode(Qt::ElideMiddle);
@@ -136,10 +150,38 @@ class ListView : public View {
   bool just_chosen_ = false;
 };
 
+/// Keys to the right and down go up in value. Qt's own treatment turns the arrows of a lying bar round.
+class ScrollNative : public QScrollBar {
+ public:
+  using QScrollBar::QScrollBar;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    switch (event->key()) {
+    case Qt::Key_Right:
+    case Qt::Key_Down:
+      return triggerAction(SliderSingleStepAdd);
+    case Qt::Key_Left:
+    case Qt::Key_Up:
+      return triggerAction(SliderSingleStepSub);
+    case Qt::Key_PageDown:
+      return triggerAction(SliderPageStepAdd);
+    case Qt::Key_PageUp:
+      return triggerAction(SliderPageStepSub);
+    case Qt::Key_Home:
+      return triggerAction(SliderToMinimum);
+    case Qt::Key_End:
+      return triggerAction(SliderToMaximum);
+    default:
+      event->ignore();
+    }
+  }
+};
+
 class ScrollView : public View {
  public:
   ScrollView(ScrollBar& bar, ViewContext& context, QWidget* parent)
-      : View(bar, context, new QScrollBar(Qt::Horizontal, parent)),
+      : View(bar, context, new ScrollNative(Qt::Horizontal, parent)),
         bar_(bar),
         native_(static_cast<QScrollBar&>(widget())) {
     native_.setFocusPolicy(Qt::ClickFocus);

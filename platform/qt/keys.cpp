@@ -77,7 +77,8 @@ KeyEvent to_key_event(const QKeyEvent& event) {
   if (result.code == key::control) result.shift &= ~shift::control;
   if (result.code == key::alt) result.shift &= ~shift::alt;
   const Text typed = from_qt(event.text());
-  if (typed.size() == 1 && typed[0] >= u' ') result.character = typed[0];
+  constexpr char16_t delete_character = 0x7F;
+  if (typed.size() == 1 && typed[0] >= u' ' && typed[0] != delete_character) result.character = typed[0];
   return result;
 }
 

@@ -11,7 +11,7 @@ namespace cserko {
 
 namespace {
 
-int device_pixels(double pixels, double ratio) { return std::max(1, static_cast<int>(std::lround(pixels * ratio))); }
+int image_side(double pixels, double ratio) { return std::max(1, static_cast<int>(std::lround(pixels * ratio))); }
 
 Color to_color(QRgb pixel) {
   // What lies under the drawing is taken for white.
@@ -27,8 +27,8 @@ Color to_color(QRgb pixel) {
 QtCanvas::QtCanvas(Size size, const Fonts& fonts, double device_ratio)
     : size_(size),
       fonts_(fonts),
-      image_(device_pixels(size.width * fonts.scale(), device_ratio),
-             device_pixels(size.height * fonts.scale(), device_ratio), QImage::Format_ARGB32_Premultiplied) {
+      image_(image_side(size.width * fonts.scale(), device_ratio),
+             image_side(size.height * fonts.scale(), device_ratio), QImage::Format_ARGB32_Premultiplied) {
   image_.setDevicePixelRatio(device_ratio);
   image_.fill(Qt::transparent);
 }
@@ -38,6 +38,18 @@ QPointF QtCanvas::to_pixels(Point place) const { return {place.x * fonts_.scale(
 QRectF QtCanvas::to_pixels(Rect place) const {
   return {place.left * fonts_.scale(), place.top * fonts_.scale(), place.width * fonts_.scale(),
           place.height * fonts_.scale()};
+}
+
+// The device pixel in which a place begins. At a broken zoom pixels of the suite are of different widths; rounding
+// every edge the same way lets them touch without a gap and without covering each other.
+int QtCanvas::device_pixel(double twips) const {
+  return static_cast<int>(std::lround(twips * fonts_.scale() * image_.devicePixelRatio()));
+}
+
+QRect QtCanvas::device_pixels(Rect place) const {
+  const QPoint first(device_pixel(place.left), device_pixel(place.top));
+  const QPoint behind(device_pixel(place.left + place.width), device_pixel(place.top + place.height));
+  return {first, QSize(behind.x() - first.x(), behind.y() - first.y())};
 }
 
 void QtCanvas::changed(const QRectF& place) {
@@ -82,7 +94,10 @@ void QtCanvas::box(Rect place, Color color) {
 }
 
 void QtCanvas::filled_box(Rect place, Color color) {
-  QPainter(&image_).fillRect(to_pixels(place), to_qt(color));
+  QPainter painter(&image_);
+  const double ratio = image_.devicePixelRatio();
+  painter.scale(1 / ratio, 1 / ratio);
+  painter.fillRect(device_pixels(place), to_qt(color));
   changed(to_pixels(place));
 }
 
@@ -109,7 +124,8 @@ void QtCanvas::print(Point place, TextView text, const Font& font, Color color) 
 }
 
 Color QtCanvas::point(Point place) const {
-  const QPoint pixel = (to_pixels(place) * image_.devicePixelRatio()).toPoint();
+  if (place.x < 0 || place.y < 0 || place.x >= size_.width || place.y >= size_.height) return white;
+  const QPoint pixel(device_pixel(place.x), device_pixel(place.y));
   return image_.valid(pixel) ? to_color(image_.pixel(pixel)) : white;
 }
 
@@ -129,17 +145,22 @@ PixelImage QtCanvas::pixels() const {
 }
 
 void QtCanvas::set_pixels(const PixelImage& source) {
-  QImage image(source.width, source.height, QImage::Format_RGB32);
-  for (int y = 0; y < source.height; ++y) {
-    for (int x = 0; x < source.width; ++x) {
-      const Color color = source.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(source.width) +
-                                        static_cast<std::size_t>(x)];
-      image.setPixel(x, y, qRgb(color.red, color.green, color.blue));
+  const auto first_pixel = [this](int index) { return device_pixel(index * twips_per_pixel); };
+  for (int y = 0; y < source.height && first_pixel(y) < image_.height(); ++y) {
+    const int row = first_pixel(y);
+    auto* line = reinterpret_cast<QRgb*>(image_.scanLine(row));
+    const Color* colors = &source.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(source.width)];
+    for (int x = 0; x < source.width && first_pixel(x) < image_.width(); ++x) {
+      const int behind = std::min(first_pixel(x + 1), image_.width());
+      std::fill(line + first_pixel(x), line + behind, qRgb(colors[x].red, colors[x].green, colors[x].blue));
     }
+    // The row that is done serves for all that belong to the same pixels.
+    const int last = std::min(first_pixel(y + 1), image_.height());
+    const int filled = std::min(first_pixel(source.width), image_.width());
+    for (int copy = row + 1; copy < last; ++copy)
+      std::copy(line, line + filled, reinterpret_cast<QRgb*>(image_.scanLine(copy)));
   }
-  const Rect place{0, 0, source.width * twips_per_pixel, source.height * twips_per_pixel};
-  QPainter(&image_).drawImage(to_pixels(place), image);
-  changed(to_pixels(place));
+  changed(to_pixels(Rect{0, 0, source.width * twips_per_pixel, source.height * twips_per_pixel}));
 }
 
 } // namespace cserko

@@ -34,6 +34,8 @@ class QtCanvas : public Canvas {
  private:
   QPointF to_pixels(Point place) const;
   QRectF to_pixels(Rect place) const;
+  int device_pixel(double twips) const;
+  QRect device_pixels(Rect place) const;
   void changed(const QRectF& place);
 
   Size size_;

@@ -76,18 +76,17 @@ void QtPlatform::set_window_icon(const Text& path) { QApplication::setWindowIcon
 
 void QtPlatform::act(const std::function<void()>& deed) {
   if (ended_ || quiet_) return;
-  ++acting_;
   deed();
-  --acting_;
-  if (ended_) return;
-  if (std::exchange(was_deaf_, false)) drop_queued_input();
-  sync_all();
+  if (!ended_) {
+    if (std::exchange(was_deaf_, false)) drop_queued_input();
+    sync_all();
+  }
   leave_finished_loops();
 }
 
 void QtPlatform::leave_finished_loops() {
   for (const RunningLoop& running : loops_) {
-    if ((*running.done)()) running.loop->quit();
+    if (ended_ || (*running.done)()) running.loop->quit();
   }
 }
 
@@ -159,26 +158,16 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
   case QEvent::MouseMove:
     return quiet_ && window_of(object) != nullptr;
   case QEvent::KeyPress: {
-    if (Window* window = window_of(object)) {
-      if (quiet_) return true;
-      return key_press(*view_of(*window), static_cast<QKeyEvent&>(*event));
-    }
-    return false;
+    WindowView* view = view_that_hears(object);
+    return view != nullptr && (quiet_ || key_press(*view, static_cast<QKeyEvent&>(*event)));
   }
-  case QEvent::KeyRelease: {
-    auto& key = static_cast<QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Alt && context_.alt_held) {
-      context_.alt_held = false;
-      for (QWidget* widget : QApplication::allWidgets()) widget->update();
-    }
-    Window* window = window_of(object);
-    if (window != nullptr && !quiet_ && !key.isAutoRepeat()) act([&] { input::key_up(*window, to_key_event(key)); });
+  case QEvent::KeyRelease:
+    if (WindowView* view = view_that_hears(object); view != nullptr && !quiet_)
+      key_release(*view, static_cast<QKeyEvent&>(*event));
     return false;
-  }
   case QEvent::FocusIn: {
     Window* window = window_of(object);
-    const auto reason = static_cast<QFocusEvent*>(event)->reason();
-    if (window == nullptr || quiet_ || acting_ > 0 || reason != Qt::MouseFocusReason) return false;
+    if (window == nullptr || quiet_ || static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) return false;
     Element* element = view_of(*window)->element_of(static_cast<QWidget*>(object));
     if (element != nullptr && element->focusable()) act([element] { input::focus(*element); });
     return false;
@@ -190,6 +179,25 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
   default:
     return false;
   }
+}
+
+// The window view that a key event is for; null when this is not the first widget that Qt offers the event to, for each
+// key counts once, or when the menu bar has the keyboard.
+WindowView* QtPlatform::view_that_hears(QObject* object) const {
+  const Window* window = window_of(object);
+  WindowView* view = window != nullptr ? view_of(*window) : nullptr;
+  if (view == nullptr) return nullptr;
+  const QObject* first = view->focusWidget() != nullptr ? view->focusWidget() : view;
+  return object == first && qobject_cast<const QMenuBar*>(object) == nullptr ? view : nullptr;
+}
+
+void QtPlatform::key_release(WindowView& view, const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Alt && context_.alt_held) {
+    context_.alt_held = false;
+    for (QWidget* widget : QApplication::allWidgets()) widget->update();
+  }
+  if (!event.isAutoRepeat())
+    act([&window = view.model(), released = to_key_event(event)] { input::key_up(window, released); });
 }
 
 // Whether the focused widget works with the key itself.
@@ -291,6 +299,7 @@ void QtPlatform::hide(Window& window) {
   window.set_visible(false);
   stack_.erase(std::remove(stack_.begin(), stack_.end(), &window), stack_.end());
   if (WindowView* view = view_of(window)) view->hide();
+  leave_finished_loops();
   if (Window* front = active_window(); front != nullptr && view_of(*front) != nullptr) {
     view_of(*front)->activateWindow();
   }
@@ -434,7 +443,7 @@ void QtPlatform::end_process() {
   ended_ = true;
   for (const auto& [window, view] : views_) view->hide();
   timers_.clear();
-  for (const RunningLoop& running : loops_) running.loop->quit();
+  leave_finished_loops();
 }
 
 } // namespace cserko

@@ -96,7 +96,9 @@ class QtPlatform : public QObject, public Platform {
   void run_loop(const std::function<bool()>& done);
   void leave_finished_loops();
   void sync_timers();
+  WindowView* view_that_hears(QObject* object) const;
   bool key_press(WindowView& view, QKeyEvent& event);
+  void key_release(WindowView& view, const QKeyEvent& event);
   bool native_key(const WindowView& view, const QKeyEvent& event) const;
   void note_keyboard(bool used);
   void open_view(Window& window, bool modal);
@@ -118,7 +120,6 @@ class QtPlatform : public QObject, public Platform {
   std::vector<RunningLoop> loops_;
   std::unordered_map<const Window*, std::unique_ptr<WindowView>> views_;
   std::unordered_map<std::uint64_t, RunningTimer> timers_;
-  int acting_ = 0;
   bool quiet_ = false;    ///< Events are let through for painting alone: nothing reaches the suite.
   bool was_deaf_ = false; ///< An animation ran while its window took no input.
   bool reporting_ = false;

@@ -1,5 +1,6 @@
 #include "platform/qt/view.h"
 
+#include "platform/qt/accessible.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/theme.h"
 
@@ -21,6 +22,7 @@ QRect ViewContext::to_pixels(const Rect& place) const {
 View::View(Element& element, ViewContext& context, QWidget* widget)
     : element_(element), context_(context), widget_(widget) {
   widget_->hide();
+  accessible::set_role(*widget_, element.kind());
 }
 
 View::~View() { delete widget_.data(); }

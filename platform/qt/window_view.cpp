@@ -23,7 +23,6 @@ class ClientArea : public QWidget {
   ClientArea(QWidget* parent, Window& window, ViewContext& context)
       : QWidget(parent), window_(window), context_(context) {
     setMouseTracking(true);
-    setFocusPolicy(Qt::ClickFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
   }
 
@@ -116,6 +115,14 @@ void WindowView::closeEvent(QCloseEvent* event) {
   context_.act([&window = window_] { input::close(window); });
 }
 
+void WindowView::resizeEvent(QResizeEvent*) { lay_out(); }
+
+void WindowView::lay_out() {
+  const int menu = menu_bar_ != nullptr ? menu_height(context_.fonts) : 0;
+  if (menu_bar_ != nullptr) menu_bar_->setGeometry(0, 0, width(), menu);
+  client_->setGeometry(0, menu, width(), height() - menu);
+}
+
 bool WindowView::sync() {
   const bool window_changed = sync_window();
   const bool menu_changed = sync_menu();
@@ -135,9 +142,12 @@ bool WindowView::sync_window() {
   if (place != shown_place_) {
     shown_place_ = place;
     move(place.topLeft() + QGuiApplication::primaryScreen()->availableGeometry().topLeft());
-    setFixedSize(place.size());
-    if (menu_bar_ != nullptr) menu_bar_->setGeometry(0, 0, place.width(), menu);
-    client_->setGeometry(0, menu, place.width(), place.height() - menu);
+    if (window_.Border == WindowBorder::Sizable) {
+      resize(place.size());
+    } else {
+      setFixedSize(place.size());
+    }
+    lay_out();
   }
   shown_caption_ = window_.Caption;
   setWindowTitle(to_qt(window_.Caption));
@@ -248,11 +258,13 @@ bool WindowView::sync_menu() {
 }
 
 void WindowView::apply_focus() {
-  if (!isVisible() || window_.focus() == shown_focus_) return;
-  shown_focus_ = window_.focus();
-  const auto found = shown_focus_ != nullptr ? views_.find(shown_focus_->serial()) : views_.end();
+  // The menu bar gives the keyboard back by itself.
+  if (!isVisible() || (menu_bar_ != nullptr && menu_bar_->hasFocus())) return;
+  const Element* focus = window_.focus();
+  const auto found = focus != nullptr ? views_.find(focus->serial()) : views_.end();
   QWidget& target = found != views_.end() ? found->second->focus_widget() : static_cast<QWidget&>(*client_);
-  if (!target.hasFocus()) target.setFocus(Qt::OtherFocusReason);
+  // Looked at anew each time: Qt moves its focus on where a widget is hidden or disabled, the suite does not.
+  if (focusWidget() != &target) target.setFocus(Qt::OtherFocusReason);
 }
 
 QWidget* WindowView::widget_of(const Element& element) const {

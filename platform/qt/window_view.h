@@ -36,6 +36,7 @@ class WindowView : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct Entry {
@@ -44,6 +45,7 @@ class WindowView : public QWidget {
     Text caption;
   };
 
+  void lay_out();
   bool sync_window();
   bool sync_views();
   bool sync_menu();
@@ -62,7 +64,6 @@ class WindowView : public QWidget {
   QRect shown_place_;
   Text shown_caption_;
   MousePointer shown_pointer_ = MousePointer::Arrow;
-  Element* shown_focus_ = nullptr;
 };
 
 } // namespace cserko

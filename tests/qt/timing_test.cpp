@@ -1,0 +1,145 @@
+// Timers, frames, and painting in the middle of a handler.
+#include "fixture.h"
+
+namespace cserko::test {
+
+namespace {
+
+class Timing : public QtMachine {
+ protected:
+  bool passed(int ms) {
+    const std::int64_t start = machine->now();
+    return wait_for([&] { return machine->now() - start > ms; });
+  }
+  /// Counts how often a widget is painted.
+  struct Paints : QObject {
+    explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+      count += event->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+    int count = 0;
+  };
+};
+
+TEST_F(Timing, TimersOfWindowsThatWereNeverShownFire) {
+  NotingWindow window(*machine);
+  Timer timer(window, u"tmr", 10);
+  int ticks = 0;
+  timer.Tick = [&] { ++ticks; };
+  machine->sync_all();
+  EXPECT_TRUE(wait_for([&] { return ticks >= 3; }));
+}
+
+TEST_F(Timing, ATimerStopsWhenItIsDisabledOrItsIntervalIsZero) {
+  NotingWindow window(*machine);
+  Timer first(window, u"tmr_a", 10);
+  Timer second(window, u"tmr_b", 10);
+  int ticks = 0;
+  first.Tick = [&] {
+    ++ticks;
+    first.Enabled = false;
+  };
+  second.Tick = [&] {
+    ++ticks;
+    second.Interval = 0;
+  };
+  machine->sync_all();
+  EXPECT_TRUE(wait_for([&] { return ticks == 2; }));
+  EXPECT_TRUE(passed(80));
+  EXPECT_EQ(ticks, 2);
+}
+
+TEST_F(Timing, AnotherIntervalTakesEffect) {
+  NotingWindow window(*machine);
+  Timer timer(window, u"tmr", 60000);
+  int ticks = 0;
+  timer.Tick = [&] { ++ticks; };
+  machine->sync_all();
+  timer.Interval = 10;
+  machine->sync_all();
+  EXPECT_TRUE(wait_for([&] { return ticks > 0; }));
+}
+
+TEST_F(Timing, ATimerDoesNotFireWithinItsOwnHandler) {
+  NotingWindow window(*machine);
+  NotingWindow dialog(*machine, {3000, 3000});
+  Timer timer(window, u"tmr", 10);
+  Timer other(window, u"tmr_b", 10);
+  int depth = 0;
+  int deepest = 0;
+  int others = 0;
+  timer.Tick = [&] {
+    deepest = std::max(deepest, ++depth);
+    const int before = others;
+    machine->pump_events([&] { return others >= before + 5; });
+    --depth;
+    timer.Enabled = false;
+  };
+  other.Tick = [&] { ++others; };
+  machine->sync_all();
+  EXPECT_TRUE(wait_for([&] { return !timer.Enabled; }));
+  EXPECT_EQ(deepest, 1);
+}
+
+TEST_F(Timing, RedrawPaintsAtOnceAndLetsNoInputIn) {
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  int clicks = 0;
+  label.Click = [&] { ++clicks; };
+  show(window);
+  Paints paints(widget(label));
+  later([&] { click(label); });
+  label.Caption = u"B";
+  machine->redraw(window);
+  EXPECT_EQ(paints.count, 1);
+  EXPECT_EQ(clicks, 0);
+  EXPECT_TRUE(wait_for([&] { return clicks == 1; }));
+}
+
+TEST_F(Timing, RedrawWithNothingNewPaintsNothing) {
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  show(window);
+  machine->redraw(window);
+  Paints paints(widget(label));
+  for (int time = 0; time < 100; ++time) machine->redraw(window);
+  EXPECT_EQ(paints.count, 0);
+}
+
+TEST_F(Timing, RedrawOfAWindowThatIsNotShownIsNothing) {
+  NotingWindow window(*machine);
+  machine->redraw(window);
+  machine->next_frame(window);
+  EXPECT_EQ(machine->view_of(window), nullptr);
+}
+
+TEST_F(Timing, TenFramesAreSeenAsTenFrames) {
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  show(window);
+  Paints paints(widget(label));
+  machine->next_frame(window);
+  const int before = paints.count;
+  const std::int64_t start = machine->now();
+  for (int frame = 0; frame < 10; ++frame) {
+    label.Left += 150;
+    label.Caption += u"x";
+    machine->next_frame(window);
+  }
+  EXPECT_GE(paints.count - before, 10);
+  // Ten frames cannot pass in less than ten frames' time.
+  EXPECT_GE(machine->now() - start, 9 * 16);
+}
+
+TEST_F(Timing, PumpingEndsWhenItsConditionHolds) {
+  NotingWindow window(*machine);
+  Timer timer(window, u"tmr", 10);
+  int ticks = 0;
+  timer.Tick = [&] { ++ticks; };
+  machine->pump_events([&] { return ticks >= 2; });
+  EXPECT_GE(ticks, 2);
+}
+
+} // namespace
+} // namespace cserko::test
