@@ -36,6 +36,7 @@ void szövegüzenet::fit_text() {
     const Size extent = platform().measure_wrapped(szöveg.Font, szöveg.Caption, text_width_);
     szöveg.Width = std::max(text_width_, extent.width);
     szöveg.Height = extent.height;
+    szöveg.Left = (inner_width() - szöveg.Width) / 2;
   };
   const double space = Command1.Top - szöveg.Top - space_above_button;
   const double widest = inner_width() - side_margins;
