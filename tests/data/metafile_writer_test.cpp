@@ -88,20 +88,20 @@ TEST(MetafileWriter, JoinsThePolygonsOfOneFigureAndSharesBrushesOfOneColor) {
 }
 
 TEST(ToGrid, DropsRepeatedPointsAndThoseOnAStraightLine) {
-  const QPolygonF square({{0, 0}, {50, 0.2}, {100, 0}, {100, 0.1}, {100, 100}, {0, 100}, {0, 0}});
+  const QPolygonF square(QList<QPointF>{{0, 0}, {50, 0.2}, {100, 0}, {100, 0.1}, {100, 100}, {0, 100}, {0, 0}});
   EXPECT_EQ(to_grid(square, 0.75), (GridPolygon{{0, 0}, {100, 0}, {100, 100}, {0, 100}}));
 }
 
 TEST(ToGrid, KeepsWhatStraysFartherThanTheTolerance) {
-  const QPolygonF bent({{0, 0}, {50, 2}, {100, 0}, {100, 100}});
+  const QPolygonF bent(QList<QPointF>{{0, 0}, {50, 2}, {100, 0}, {100, 100}});
   EXPECT_EQ(to_grid(bent, 0.75).size(), 4u);
   EXPECT_EQ(to_grid(bent, 3).size(), 3u);
 }
 
 TEST(ToGrid, LeavesNothingOfALineOrAPoint) {
-  EXPECT_TRUE(to_grid(QPolygonF({{0, 0}, {10, 0}}), 0.75).empty());
-  EXPECT_TRUE(to_grid(QPolygonF({{0, 0}, {10, 0}, {20, 0.3}}), 0.75).empty());
-  EXPECT_TRUE(to_grid(QPolygonF({{1, 1}, {1.2, 1}, {1.3, 1.2}}), 0.75).empty());
+  EXPECT_TRUE(to_grid(QPolygonF(QList<QPointF>{{0, 0}, {10, 0}}), 0.75).empty());
+  EXPECT_TRUE(to_grid(QPolygonF(QList<QPointF>{{0, 0}, {10, 0}, {20, 0.3}}), 0.75).empty());
+  EXPECT_TRUE(to_grid(QPolygonF(QList<QPointF>{{1, 1}, {1.2, 1}, {1.3, 1.2}}), 0.75).empty());
 }
 
 TEST(MetafileDevice, TurnsAStrokeIntoAFilledOutline) {
