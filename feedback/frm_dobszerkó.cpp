@@ -92,8 +92,9 @@ void frm_dobszerkó::color_key(int index) {
 void frm_dobszerkó::fit_big_letter() {
   cserko::Font font = Label1.Font;
   font.size = 10;
-  // "Á" is the tallest letter of the alphabet.
-  while (platform().measure(font, u"Á").height < Label1.Height) font.size += 1;
+  // The tallest letter of the alphabet; it stands there until the first strike.
+  Label1.Caption = u"Á";
+  while (platform().measure(font, Label1.Caption).height < Label1.Height) font.size += 1;
   Label1.Font.size = font.size;
 }
 

@@ -150,7 +150,7 @@ void frm_zenebeáll::refresh_buttons() {
   cmd_add.Enabled = filelist_zene.list_index() >= 0;
   cmd_törl.Enabled = index >= 0;
   cmd_áthelyez[up_button].Enabled = index > 0 && count >= 2;
-  cmd_áthelyez[down_button].Enabled = count >= 2 && index >= 0 && index != count - 1;
+  cmd_áthelyez[down_button].Enabled = count >= 2 && index != count - 1;
 }
 
 } // namespace cserko
