@@ -3,8 +3,10 @@
 #include "tests/tour/checks.h"
 
 #include <QScreen>
+#include <algorithm>
 #include <array>
 #include <cmath>
+#include <numeric>
 
 namespace cserko::tour {
 
@@ -15,6 +17,8 @@ constexpr int stray_share = 5;
 // A disabled caption is grey and must still be read.
 constexpr int faintest_text = 40;
 constexpr int faintest_window = 60;
+// The paper is never of one shade; where one fills nearly all, nothing has been painted.
+constexpr double emptiest_window = 0.95;
 
 bool shows_text(const Element& element) {
   if (!element.shown() || without_mnemonic(element.Caption).find_first_not_of(u" \r\n") == Text::npos) return false;
@@ -31,6 +35,25 @@ bool shows_text(const Element& element) {
   }
 }
 
+// How many pixels of each shade of grey a place has.
+using Shades = std::array<int, 256>;
+
+Shades count_shades(const QImage& image, QRect place) {
+  Shades shades{};
+  const QRect inside = place.intersected(image.rect());
+  for (int y = inside.top(); y <= inside.bottom(); ++y) {
+    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    for (int x = inside.left(); x <= inside.right(); ++x) ++shades[static_cast<std::size_t>(qGray(line[x]))];
+  }
+  return shades;
+}
+
+bool of_one_shade(const QImage& image, QRect place) {
+  const Shades shades = count_shades(image, place);
+  const int pixels = std::accumulate(shades.begin(), shades.end(), 0);
+  return *std::max_element(shades.begin(), shades.end()) >= emptiest_window * pixels;
+}
+
 } // namespace
 
 QImage take_picture(const QWidget& widget) {
@@ -42,14 +65,9 @@ QImage take_picture(const QWidget& widget) {
 }
 
 int contrast(const QImage& image, QRect place) {
-  std::array<int, 256> shades{};
-  const QRect inside = place.intersected(image.rect());
-  const int pixels = inside.width() * inside.height();
-  if (pixels <= 0) return 0;
-  for (int y = inside.top(); y <= inside.bottom(); ++y) {
-    const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    for (int x = inside.left(); x <= inside.right(); ++x) ++shades[static_cast<std::size_t>(qGray(line[x]))];
-  }
+  const Shades shades = count_shades(image, place);
+  const int pixels = std::accumulate(shades.begin(), shades.end(), 0);
+  if (pixels == 0) return 0;
   const int stray = static_cast<int>(static_cast<std::int64_t>(pixels) * stray_share / 10000);
   const auto end = [&](auto first, auto last) {
     int passed = 0;
@@ -76,7 +94,8 @@ std::vector<std::string> Photograph::faults(const Window& window) const {
   std::vector<std::string> found;
   const QRect client(
       corner_, QSize(static_cast<int>(window.inner_width() * zoom_), static_cast<int>(window.inner_height() * zoom_)));
-  if (contrast(image_, client) < faintest_window) found.push_back(to_utf8(window.Name) + ": the window is blank");
+  if (contrast(image_, client) < faintest_window || of_one_shade(image_, client))
+    found.push_back(to_utf8(window.Name) + ": the window is blank");
   for (const Element* element : window.elements()) {
     if (shows_text(*element) && contrast(image_, place_of(*element)) < faintest_text)
       found.push_back(to_utf8(window.Name) + ": the text of " + name_of(*element) + " cannot be seen");

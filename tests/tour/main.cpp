@@ -6,17 +6,29 @@
 #include "tests/tour/story.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <cstdio>
 
 namespace {
 
+// A window manager takes its time to bring a window up, and the records of the pack are read before that.
+void wait_for_paint(cserko::WatchedPlatform& platform, cserko::Window& window) {
+  QElapsedTimer waiting;
+  waiting.start();
+  while (!platform.settled(window) && waiting.elapsed() < 5000)
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  platform.view_of(window)->repaint();
+  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 // The progress window lets no event happen: it is looked at when half of the records are read.
 void watch_progress(cserko::WatchedPlatform& platform, cserko::tour::Guide& guide) {
-  platform.redrawn = [&guide, taken = false](cserko::Window& window) mutable {
+  platform.redrawn = [&platform, &guide, taken = false](cserko::Window& window) mutable {
     if (taken || window.Name != u"FrmFolyamat") return;
     const auto& bar = static_cast<cserko::FrmFolyamat&>(window).ProgressBar;
     if (bar.Value == 0 || bar.Value < bar.Max / 2) return;
     taken = true;
+    wait_for_paint(platform, window);
     guide.look_at(window, "progress");
   };
 }

@@ -55,10 +55,14 @@ TwoWords record_with_other_word(const Session& session) {
   throw std::runtime_error("no record has the letters of another word");
 }
 
-template<class Better> int record_by_length(const Session& session, Better better) {
-  int chosen = 0;
-  for (int i = 1; i < session.képek.képszám; ++i) {
-    if (better(letters_of(session.képek[i].név), letters_of(session.képek[chosen].név))) chosen = i;
+// The record with the fewest or most letters of those that the exercise deals: the frame must hold the word.
+template<class Better> int record_by_length(const Session& session, const frm_cserkó& window, Better better) {
+  int chosen = -1;
+  for (int i = 0; i < session.képek.képszám; ++i) {
+    const Text& name = session.képek[i].név;
+    const double width = session.platform().measure(window.kép.Font, name).width;
+    if (letters_of(name) > 12 || width > 0.9 * window.kép.Width) continue;
+    if (chosen < 0 || better(letters_of(name), letters_of(session.képek[chosen].név))) chosen = i;
   }
   return chosen;
 }
@@ -147,13 +151,13 @@ class Stops {
 
   void longest_and_shortest() const {
     const auto show = [this](const std::string& name, auto better) {
-      guide_.act(exercise, [*this, better](Window&) { deal(record_by_length(session_, better)); });
+      guide_.act(exercise, [*this, better](Window& window) { deal(record_by_length(session_, game(window), better)); });
       guide_.picture(exercise, name);
       guide_.act(exercise, [](Window& window) { input::click(game(window).cmd_rendez); });
       guide_.picture(exercise, name + "-sorted");
     };
     show("scrambled-word-shortest", [](int letters, int best) { return letters < best; });
-    show("scrambled-word-longest", [](int letters, int best) { return letters <= 12 && letters > best; });
+    show("scrambled-word-longest", [](int letters, int best) { return letters > best; });
   }
 
   void missing_picture() const {

@@ -2,8 +2,9 @@
 
 #include "core/frame.h"
 #include "core/frm_főablak.h"
-#include "feedback/frm_gratuláció.h"
+#include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_hangbeáll.h"
+#include "feedback/frm_zenebeáll.h"
 #include "feedback/message_panels.h"
 #include "feedback/névjegy.h"
 #include "platform/input.h"
@@ -75,13 +76,22 @@ void lay_out_sounds(Guide& guide) {
   guide.act(sounds, [](Window& window) { input::click(as<frm_hangbeáll>(window).cmd_mégsem); });
 }
 
-// A window of the menu that another one than this tour knows the insides of.
-void lay_out_entry(Guide& guide, const Session& session, TextView window, MenuItem frm_főablak::*entry,
-                   const std::string& name) {
-  if (!session.offers(window)) return;
-  guide.act(main_window, [entry](Window& main) { input::click(as<frm_főablak>(main).*entry); });
-  guide.picture(window, name);
-  guide.act(window, [](Window& shown) { input::close(shown); });
+void lay_out_music(Guide& guide) {
+  constexpr TextView music = u"frm_zenebeáll";
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_zenebeállítások); });
+  guide.picture(music, "music");
+  guide.act(music, [](Window& window) { input::select(as<frm_zenebeáll>(window).list_playlist, 1); });
+  guide.picture(music, "music-title-selected");
+  guide.act(music, [](Window& window) { input::click(as<frm_zenebeáll>(window).cmd_mégsem); });
+}
+
+void lay_out_drum(Guide& guide) {
+  constexpr TextView drum = u"frm_dobszerkó";
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_jutalomjáték_dobolás); });
+  guide.picture(drum, "drum");
+  guide.act(drum, [](Window& window) { input::key_down(window, {'G', shift::none, u'g'}); });
+  guide.picture(drum, "drum-struck");
+  guide.act(drum, [](Window& window) { input::close(window); });
 }
 
 template<class Panel>
@@ -143,9 +153,8 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   lay_out_main_window(guide, session);
   lay_out_figures(guide, session);
   lay_out_sounds(guide);
-  lay_out_entry(guide, session, u"frm_zenebeáll", &frm_főablak::mnu_fájl_zenebeállítások, "music");
-  lay_out_entry(guide, session, u"frm_dobszerkó", &frm_főablak::mnu_jutalomjáték_dobolás, "drum");
-  lay_out_entry(guide, session, u"frm_rajz", &frm_főablak::mnu_jutalom_rajz, "drawing");
+  lay_out_music(guide);
+  lay_out_drum(guide);
   lay_out_panels(guide, session);
   lay_out_scrambled_word(guide, session, platform);
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_kilépés); });
