@@ -8,6 +8,8 @@
 namespace cserko {
 namespace {
 
+using namespace std::string_literals;
+
 class BadInputTest : public ScrambledTest {
  protected:
   void put_record(TextView name, std::string_view bytes) {
@@ -47,12 +49,12 @@ TEST_F(BadInputTest, WithAnEmptyFolderOfRecordsTheExerciseOpens) {
 }
 
 TEST_F(BadInputTest, RecordsOfEveryKindOfDamageAreLoadedAndPlayed) {
-  put_record(u"1.wms", "1\r\nkos\r\n");                                      // cut short
-  put_record(u"2.wms", "");                                                  // empty
-  put_record(u"3.wms", std::string(10 << 20, 'x'));                          // 10 MB on one line
-  put_record(u"4.wms", "1\n\x81\x83\x88\x90\x98\n3\n4\n5\n6\n7\n8");         // outside the code page, LF
-  put_record(u"5.wms", "1\rhal\rx\rfish\rhal\rEgy hal.\rIgaz.\rHamis.\r");   // CR
-  put_record(u"6.wms", std::string("1\r\n\0\x01\x02\r\n3\r\n\r\n\r\n", 17)); // binary
+  put_record(u"1.wms", "1\r\nkos\r\n");                                    // cut short
+  put_record(u"2.wms", "");                                                // empty
+  put_record(u"3.wms", std::string(10 << 20, 'x'));                        // 10 MB on one line
+  put_record(u"4.wms", "1\n\x81\x83\x88\x90\x98\n3\n4\n5\n6\n7\n8");       // outside the code page, LF
+  put_record(u"5.wms", "1\rhal\rx\rfish\rhal\rEgy hal.\rIgaz.\rHamis.\r"); // CR
+  put_record(u"6.wms", "1\r\n\0\x01\x02\r\n3\r\n\r\n\r\n"s);               // binary
   put_record(u"7.WMS", "1\r\nutols\xF3\r\n");
   start();
   ASSERT_EQ(session().képek.képszám, 6);

@@ -1,4 +1,5 @@
 // From the start of the program to its end: what is prepared in which order, and the two ways out.
+#include "core/frm_folyamat.h"
 #include "core/frm_főablak.h"
 #include "core/frm_referencia.h"
 #include "feedback/frm_hangbeáll.h"
@@ -99,6 +100,8 @@ TEST_F(MainTest, TheProgressWindowIsCentredOnTheScreenAndRedrawnForEachRecord) {
     void redraw(Window& window) override {
       HeadlessPlatform::redraw(window);
       if (window.Name != u"FrmFolyamat") return;
+      const auto& bar = static_cast<FrmFolyamat&>(window).ProgressBar;
+      if (times > 0) values.emplace_back(bar.Value, bar.Max);
       caption = to_utf8(window.Caption);
       center = {window.Left + window.Width / 2, window.Top + window.Height / 2};
       ++times;
@@ -106,6 +109,7 @@ TEST_F(MainTest, TheProgressWindowIsCentredOnTheScreenAndRedrawnForEachRecord) {
     std::string caption;
     Point center;
     int times = 0;
+    std::vector<std::pair<int, int>> values; // with their maximum
   } watcher;
   for (int i = 1; i <= 3; ++i) watcher.files().put(Text(app) + u"kepek\\" + to_text(i) + u".wms", "1\r\nalma");
   Session session(watcher);
@@ -114,6 +118,7 @@ TEST_F(MainTest, TheProgressWindowIsCentredOnTheScreenAndRedrawnForEachRecord) {
   EXPECT_EQ(watcher.caption, "Adatfeldolgozás...");
   EXPECT_EQ(watcher.center, (Point{1280 * 15 / 2.0, 1024 * 15 / 2.0}));
   EXPECT_EQ(watcher.times, 1 + 3);
+  EXPECT_EQ(watcher.values, (std::vector<std::pair<int, int>>{{0, 2}, {0, 2}, {1, 2}}));
 }
 
 TEST_F(MainTest, LeavingTheTextWindowEndsTheProcessWithoutTheLauncher) {

@@ -1,5 +1,6 @@
 // Settings files byte for byte, and what a settings dialog does with its file.
 #include "core/settings.h"
+#include "feedback/frm_zenebeáll.h"
 #include "platform/element_array.h"
 #include "tests/suite/suite_fixture.h"
 
@@ -157,6 +158,15 @@ TEST_F(SettingsTest, TheFactoryFileIsNeverWritten) {
   hand::click(open<FactoryDialog>().OKButton);
   EXPECT_EQ(file(Text(app) + u"cserko\\sample.ini"), " 1 \r\n");
   EXPECT_EQ(settings(u"sample.ini").substr(0, 5), " 1 \r\n");
+}
+
+TEST_F(SettingsTest, TheUsersPlaylistWinsOverTheFactoryPlaylist) {
+  put_app_file(u"cserko\\zenebeáll.ini", u" 1 \r\nfactory.mid\r\n");
+  EXPECT_EQ(utf8(load<frm_zenebeáll>().list_playlist.Items.at(0)), "factory.mid");
+  put_settings(u"zenebeáll.ini", {u" 0 ", u"own.mid"});
+  start();
+  EXPECT_EQ(utf8(load<frm_zenebeáll>().list_playlist.Items.at(0)), "own.mid");
+  EXPECT_EQ(load<frm_zenebeáll>().chk_zene_enged.value(), 0);
 }
 
 TEST_F(SettingsTest, AFileUnderTheApplicationFolderCountsForNothingWithoutBeingAFactoryFile) {
