@@ -1,5 +1,6 @@
 #include "tests/tour/story.h"
 
+#include "core/exercise_table.h"
 #include "core/frame.h"
 #include "core/frm_főablak.h"
 #include "feedback/frm_dobszerkó.h"
@@ -146,6 +147,18 @@ void lay_out_panels(Guide& guide, Session& session) {
       guide, session, u"Névjegy", "about", [](Névjegy&) {}, &Névjegy::cmdOK);
 }
 
+// A first look at each exercise that has no stops of its own.
+void lay_out_other_exercises(Guide& guide, const Session& session) {
+  for (std::size_t i = 0; i < exercise_table.size(); ++i) {
+    const TextView exercise = exercise_table[i].window;
+    if (exercise == u"frm_cserkó" || !session.offers(exercise)) continue;
+    guide.act(main_window,
+              [i](Window& window) { input::click(as<frm_főablak>(window).cmd_játék[static_cast<int>(i)]); });
+    guide.picture(exercise, "exercise-" + std::to_string(i));
+    guide.act(exercise, [](Window& window) { input::close(window); });
+  }
+}
+
 } // namespace
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
@@ -157,6 +170,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   lay_out_drum(guide);
   lay_out_panels(guide, session);
   lay_out_scrambled_word(guide, session, platform);
+  lay_out_other_exercises(guide, session);
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_kilépés); });
 }
 
