@@ -73,6 +73,8 @@ class Grain {
 constexpr int kPaperSide = 256;
 using Sheet = std::vector<double>;
 
+size_t place(int x, int y) { return static_cast<size_t>(y) * kPaperSide + static_cast<size_t>(x); }
+
 // Softens the grain with a box that wraps round, so that the sheet tiles without a seam.
 Sheet softened(const Sheet& sheet, int reach) {
   Sheet result(sheet.size());
@@ -82,9 +84,9 @@ Sheet softened(const Sheet& sheet, int reach) {
       for (int dy = -reach; dy <= reach; ++dy)
         for (int dx = -reach; dx <= reach; ++dx) {
           const int px = (x + dx + kPaperSide) % kPaperSide, py = (y + dy + kPaperSide) % kPaperSide;
-          sum += sheet[static_cast<size_t>(py * kPaperSide + px)];
+          sum += sheet[place(px, py)];
         }
-      result[static_cast<size_t>(y * kPaperSide + x)] = sum / ((2 * reach + 1) * (2 * reach + 1));
+      result[place(x, y)] = sum / ((2 * reach + 1) * (2 * reach + 1));
     }
   return result;
 }
@@ -92,13 +94,13 @@ Sheet softened(const Sheet& sheet, int reach) {
 // Cream, with a grain so faint that no letter on it is harder to read.
 QImage paper() {
   Grain grain;
-  Sheet noise(kPaperSide * kPaperSide);
+  Sheet noise(place(0, kPaperSide));
   for (double& value : noise) value = grain.next() - 0.5;
   const Sheet fine = softened(noise, 1), broad = softened(softened(noise, 6), 6);
   QImage image(kPaperSide, kPaperSide, QImage::Format_RGB32);
   for (int y = 0; y < kPaperSide; ++y)
     for (int x = 0; x < kPaperSide; ++x) {
-      const size_t i = static_cast<size_t>(y * kPaperSide + x);
+      const size_t i = place(x, y);
       const int shade = static_cast<int>(std::lround(std::clamp(fine[i] * 10 + broad[i] * 60, -4.0, 4.0)));
       image.setPixel(x, y, qRgb(std::min(255, 251 + shade), 244 + shade, 226 + shade));
     }

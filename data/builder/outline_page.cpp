@@ -134,7 +134,7 @@ class AreaMap {
         const int px = x + dx, py = y + dy;
         const bool inside = px >= 0 && py >= 0 && px < kPageSide && py < kPageSide;
         if (inside && dx * dx + dy * dy <= kLineRadius * kLineRadius + 1)
-          black[static_cast<size_t>(py * kPageSide + px)] = true;
+          black[static_cast<size_t>(py) * kPageSide + static_cast<size_t>(px)] = true;
       }
   }
 

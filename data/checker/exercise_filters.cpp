@@ -52,7 +52,7 @@ Count always(int count) {
 // ---------------------------------------------------------------------------------------------------------
 
 // Records that pass among those that are drawn; the last one never is.
-Count drawn(const Pack& pack, Passes passes) {
+Count drawn(const Pack& pack, const Passes& passes) {
   return [&pack, passes](const Choice& c) {
     return static_cast<int>(
         std::count_if(pack.words.begin(), pack.words.end() - 1, [&](const WordFacts& w) { return passes(w, c); }));
@@ -60,7 +60,8 @@ Count drawn(const Pack& pack, Passes passes) {
 }
 
 // Different texts of the records that pass, where every record can be drawn.
-Count different(const Pack& pack, Passes passes, std::function<QString(const WordFacts&, const Choice&)> text) {
+Count different(const Pack& pack, const Passes& passes,
+                const std::function<QString(const WordFacts&, const Choice&)>& text) {
   return [&pack, passes, text](const Choice& c) {
     QSet<QString> seen;
     for (const WordFacts& w : pack.words)

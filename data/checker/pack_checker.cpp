@@ -119,6 +119,7 @@ QStringList check(const Paths& paths) {
   faults += part_faults(paths.pack, pack);
   const std::vector<ExerciseFilter> filters = exercise_filters(pack);
   std::vector<ExerciseOutcome> outcomes;
+  outcomes.reserve(filters.size());
   for (const ExerciseFilter& filter : filters) outcomes.push_back(count_combinations(filter));
   for (const ExerciseOutcome& outcome : outcomes) faults += unplayable(outcome, settings);
   faults += spelling.faults() + syllables.faults() + settings.faults();

@@ -97,6 +97,7 @@ class ChainSearch {
 // 0.wms, 1.wms, 10.wms, 100.wms …
 std::vector<const WordFacts*> by_file_name(const std::vector<const WordFacts*>& words) {
   std::vector<std::string> names;
+  names.reserve(words.size());
   for (size_t i = 0; i < words.size(); ++i) names.push_back(std::to_string(i));
   std::sort(names.begin(), names.end());
   std::vector<const WordFacts*> sorted;

@@ -19,6 +19,8 @@ void require(const QString& path) {
 } // namespace
 
 struct Spelling::Library {
+  Library(const QByteArray& affix_file, const QByteArray& word_file)
+      : dictionary(affix_file.constData(), word_file.constData()), utf8(dictionary.get_dict_encoding() == "UTF-8") {}
   Hunspell dictionary;
   bool utf8;
 };
@@ -26,8 +28,7 @@ struct Spelling::Library {
 Spelling::Spelling(const QString& affix_file, const QString& word_file) {
   require(affix_file);
   require(word_file);
-  library_.reset(new Library{Hunspell(affix_file.toUtf8().constData(), word_file.toUtf8().constData()), true});
-  library_->utf8 = library_->dictionary.get_dict_encoding() == "UTF-8";
+  library_ = std::make_unique<Library>(affix_file.toUtf8(), word_file.toUtf8());
   if (!library_->utf8 && library_->dictionary.get_dict_encoding() != "ISO8859-1")
     throw PackError(word_file + ": written in a character set that is not read here");
 }
@@ -39,12 +40,13 @@ bool Spelling::accepts(const QString& word) const {
 }
 
 struct Hyphenation::Library {
-  HyphenDict* patterns;
+  HyphenDict* patterns = nullptr;
 };
 
 Hyphenation::Hyphenation(const QString& pattern_file) {
   require(pattern_file);
-  library_.reset(new Library{hnj_hyphen_load(pattern_file.toUtf8().constData())});
+  library_ = std::make_unique<Library>();
+  library_->patterns = hnj_hyphen_load(pattern_file.toUtf8().constData());
   if (!library_->patterns) throw PackError(pattern_file + ": not a hyphenation dictionary");
 }
 

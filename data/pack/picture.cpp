@@ -80,7 +80,7 @@ QImage SquarePicture::image(int side) {
 }
 
 QImage draw_metafile(const QByteArray& metafile, int side) {
-  const QImage drawn = render_metafile(metafile, QSize(side, side), PictureFit::Stretch);
+  QImage drawn = render_metafile(metafile, QSize(side, side), PictureFit::Stretch);
   if (drawn.isNull()) return drawn;
   QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
   image.fill(Qt::white);
@@ -102,7 +102,7 @@ double share_of_pixels_off(const QImage& a, const QImage& b) {
 }
 
 QByteArray proved_metafile(SquarePicture& picture, const QString& name) {
-  const QByteArray metafile = picture.metafile();
+  QByteArray metafile = picture.metafile();
   if (metafile.size() > kLargestMetafile)
     throw PackError(
         QString("%1: the metafile takes %2 bytes, more than %3").arg(name).arg(metafile.size()).arg(kLargestMetafile));

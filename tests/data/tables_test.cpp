@@ -12,7 +12,7 @@ namespace {
 class Tables : public testing::Test {
  protected:
   QString file(const QByteArray& bytes) {
-    const QString path = folder_.filePath("file");
+    QString path = folder_.filePath("file");
     QFile out(path);
     EXPECT_TRUE(out.open(QIODevice::WriteOnly) && out.write(bytes) == bytes.size());
     return path;

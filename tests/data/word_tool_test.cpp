@@ -15,7 +15,7 @@ namespace {
 class WordTool : public testing::Test {
  protected:
   QString picture(const QString& name, const QByteArray& bytes) {
-    const QString path = pictures_.filePath(name);
+    QString path = pictures_.filePath(name);
     write_if_changed(path, bytes);
     return path;
   }
