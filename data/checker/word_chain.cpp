@@ -101,6 +101,7 @@ std::vector<const WordFacts*> by_file_name(const std::vector<const WordFacts*>& 
   for (size_t i = 0; i < words.size(); ++i) names.push_back(std::to_string(i));
   std::sort(names.begin(), names.end());
   std::vector<const WordFacts*> sorted;
+  sorted.reserve(words.size());
   for (const std::string& name : names) sorted.push_back(words[std::stoul(name)]);
   return sorted;
 }

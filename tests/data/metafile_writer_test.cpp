@@ -59,6 +59,7 @@ TEST(MetafileWriter, TellsSizeObjectsAndLargestRecordInTheStandardHeader) {
 TEST(MetafileWriter, WritesTheRecordsInTheOrderThatPlayersExpect) {
   const std::vector<Record> records = records_of(write_metafile({triangle(qRgb(0x11, 0x22, 0x33))}));
   std::vector<int> functions;
+  functions.reserve(records.size());
   for (const Record& record : records) functions.push_back(record.function);
   EXPECT_EQ(functions,
             (std::vector<int>{0x0103, 0x020B, 0x020C, 0x0102, 0x02FA, 0x012D, 0x02FC, 0x012D, 0x0106, 0x0324, 0}));
