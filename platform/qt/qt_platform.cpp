@@ -42,12 +42,6 @@ double zoom_of_screen() {
   return std::max(1.0, std::floor(fit * 4) / 4);
 }
 
-Window* window_of(QObject* object) {
-  auto* widget = qobject_cast<QWidget*>(object);
-  auto* view = widget != nullptr ? dynamic_cast<WindowView*>(widget->window()) : nullptr;
-  return view != nullptr ? &view->model() : nullptr;
-}
-
 } // namespace
 
 QtPlatform::QtPlatform()
@@ -151,12 +145,12 @@ void QtPlatform::note_keyboard(bool used) {
 bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
   switch (event->type()) {
   case QEvent::MouseButtonPress:
-    if (quiet_ && window_of(object) != nullptr) return true;
+    if (quiet_ && live_view(object) != nullptr) return true;
     note_keyboard(false);
     return false;
   case QEvent::MouseButtonRelease:
   case QEvent::MouseMove:
-    return quiet_ && window_of(object) != nullptr;
+    return quiet_ && live_view(object) != nullptr;
   case QEvent::KeyPress: {
     WindowView* view = view_that_hears(object);
     return view != nullptr && (quiet_ || key_press(*view, static_cast<QKeyEvent&>(*event)));
@@ -166,26 +160,35 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
       key_release(*view, static_cast<QKeyEvent&>(*event));
     return false;
   case QEvent::FocusIn: {
-    Window* window = window_of(object);
-    if (window == nullptr || quiet_ || static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) return false;
-    Element* element = view_of(*window)->element_of(static_cast<QWidget*>(object));
+    const WindowView* view = live_view(object);
+    if (view == nullptr || quiet_ || static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason) return false;
+    Element* element = view->element_of(static_cast<QWidget*>(object));
     if (element != nullptr && element->focusable()) act([element] { input::focus(*element); });
     return false;
   }
   case QEvent::WindowActivate:
-    if (auto* view = dynamic_cast<WindowView*>(object); view != nullptr && view->model().visible() && !quiet_)
-      act([view] { input::activate(view->model()); });
+    if (WindowView* view = live_view(object); view == object && view != nullptr && view->model().visible() && !quiet_)
+      act([&window = view->model()] { input::activate(window); });
     return false;
   default:
     return false;
   }
 }
 
+// The view that an object belongs to; null where it belongs to none, or to one that only waits for its deletion: the
+// window system may still have something for it, the suite's window is gone.
+WindowView* QtPlatform::live_view(const QObject* object) const {
+  const auto* widget = qobject_cast<const QWidget*>(object);
+  if (widget == nullptr) return nullptr;
+  const auto shown = std::find_if(views_.begin(), views_.end(),
+                                  [widget](const auto& entry) { return entry.second.get() == widget->window(); });
+  return shown == views_.end() ? nullptr : shown->second.get();
+}
+
 // The window view that a key event is for; null when this is not the first widget that Qt offers the event to, for each
 // key counts once, or when the menu bar has the keyboard.
-WindowView* QtPlatform::view_that_hears(QObject* object) const {
-  const Window* window = window_of(object);
-  WindowView* view = window != nullptr ? view_of(*window) : nullptr;
+WindowView* QtPlatform::view_that_hears(const QObject* object) const {
+  WindowView* view = live_view(object);
   if (view == nullptr) return nullptr;
   const QObject* first = view->focusWidget() != nullptr ? view->focusWidget() : view;
   return object == first && qobject_cast<const QMenuBar*>(object) == nullptr ? view : nullptr;
@@ -247,15 +250,19 @@ void QtPlatform::attach(Window& window) {
 }
 
 void QtPlatform::detach(Window& window) {
-  hide(window);
-  attached_.erase(std::remove(attached_.begin(), attached_.end(), &window), attached_.end());
-  sync_timers();
-  // The view may be in the middle of an event of its own.
   if (const auto found = views_.find(&window); found != views_.end()) {
+    // Nothing that its widgets still have to say reaches a window that goes.
+    const bool before = std::exchange(quiet_, true);
     found->second->hide();
+    found->second->setEnabled(false);
+    quiet_ = before;
+    // The view may be in the middle of an event of its own.
     found->second.release()->deleteLater();
     views_.erase(found);
   }
+  hide(window);
+  attached_.erase(std::remove(attached_.begin(), attached_.end(), &window), attached_.end());
+  sync_timers();
 }
 
 void QtPlatform::first_focus(Window& window) {
@@ -297,9 +304,9 @@ void QtPlatform::show(Window& window) {
 
 void QtPlatform::hide(Window& window) {
   window.set_visible(false);
-  stack_.erase(std::remove(stack_.begin(), stack_.end(), &window), stack_.end());
   if (WindowView* view = view_of(window)) view->hide();
   leave_finished_loops();
+  if (std::erase(stack_, &window) == 0) return;
   if (Window* front = active_window(); front != nullptr && view_of(*front) != nullptr) {
     view_of(*front)->activateWindow();
   }

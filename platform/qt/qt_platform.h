@@ -96,7 +96,8 @@ class QtPlatform : public QObject, public Platform {
   void run_loop(const std::function<bool()>& done);
   void leave_finished_loops();
   void sync_timers();
-  WindowView* view_that_hears(QObject* object) const;
+  WindowView* live_view(const QObject* object) const;
+  WindowView* view_that_hears(const QObject* object) const;
   bool key_press(WindowView& view, QKeyEvent& event);
   void key_release(WindowView& view, const QKeyEvent& event);
   bool native_key(const WindowView& view, const QKeyEvent& event) const;

@@ -76,6 +76,30 @@ TEST_F(Lifetime, AWindowMayGoInItsOwnClick) {
   EXPECT_TRUE(wait_for([&] { return shown == nullptr; }));
 }
 
+TEST_F(Lifetime, WhatComesLateForAWindowThatIsGoneReachesNobody) {
+  auto window = std::make_unique<NotingWindow>(*machine);
+  auto box = std::make_unique<TextBox>(*window, u"txt", Rect{300, 300, 1500, 450});
+  show(*window);
+  const QPointer<WindowView> late = &view(*window);
+  const QPointer<QWidget> edit = &widget(*box);
+  box.reset();
+  window.reset();
+  ASSERT_NE(late, nullptr);
+  ASSERT_NE(edit, nullptr);
+  QEvent activated(QEvent::WindowActivate);
+  QApplication::sendEvent(late, &activated);
+  QFocusEvent focused(QEvent::FocusIn, Qt::MouseFocusReason);
+  QApplication::sendEvent(edit, &focused);
+  QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, "a");
+  QApplication::sendEvent(edit, &key);
+  QMouseEvent pressed(QEvent::MouseButtonPress, QPointF(5, 5), edit->mapToGlobal(QPointF(5, 5)), Qt::LeftButton,
+                      Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(edit->parentWidget(), &pressed);
+  EXPECT_TRUE(machine->shown_windows().empty());
+  QCoreApplication::sendPostedEvents(late, QEvent::DeferredDelete);
+  EXPECT_EQ(late, nullptr);
+}
+
 TEST_F(Lifetime, ATimerMayGoInItsOwnTick) {
   NotingWindow window(*machine);
   auto timer = std::make_unique<Timer>(window, u"tmr", 10);
