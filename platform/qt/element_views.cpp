@@ -319,6 +319,11 @@ class FrameWidget : public ElementWidget {
   }
 };
 
+// What a line needs around its box: lying and standing lines have a box without height or width.
+int line_margin(const Line& line, const ViewContext& context) {
+  return 1 + static_cast<int>(line.BorderWidth * context.fonts.scale() / 2);
+}
+
 class LineWidget : public QWidget {
  public:
   LineWidget(QWidget* parent, Line& line, ViewContext& context) : QWidget(parent), line_(line), context_(context) {
@@ -330,8 +335,11 @@ class LineWidget : public QWidget {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(to_qt(line_.ForeColor), line_.BorderWidth * context_.fonts.scale()));
-    painter.drawLine(line_.Rising ? rect().bottomLeft() : rect().topLeft(),
-                     line_.Rising ? rect().topRight() : rect().bottomRight());
+    const int margin = line_margin(line_, context_);
+    const QRect box = rect().adjusted(margin, margin, -margin, -margin);
+    const QPoint left(box.left(), line_.Rising ? box.top() + box.height() : box.top());
+    const QPoint right(box.left() + box.width(), line_.Rising ? box.top() : box.top() + box.height());
+    painter.drawLine(QPointF(left), QPointF(right));
   }
 
  private:
@@ -349,8 +357,16 @@ class LineView : public View {
     const bool differs = width_ != line_.BorderWidth || rising_ != line_.Rising;
     width_ = line_.BorderWidth;
     rising_ = line_.Rising;
-    if (differs) widget().update();
+    if (differs) {
+      widget().setGeometry(widget_place({line_.Left, line_.Top, line_.Width, line_.Height}));
+      widget().update();
+    }
     return differs;
+  }
+
+  QRect widget_place(const Rect& place) const override {
+    const int margin = line_margin(line_, context());
+    return context().to_pixels(place).adjusted(-margin, -margin, margin, margin);
   }
 
  private:

@@ -51,7 +51,7 @@ void View::take_look() {
             e.Opaque};
 }
 
-void View::apply_place() { widget_->setGeometry(context_.to_pixels(shown_.place)); }
+void View::apply_place() { widget_->setGeometry(widget_place(shown_.place)); }
 
 bool View::sync() {
   const bool content = sync_content();

@@ -42,6 +42,8 @@ class View {
  protected:
   /// What a kind shows beside what all elements have in common. Returns whether anything differed.
   virtual bool sync_content() { return false; }
+  /// Where the widget stands, for an element at a place.
+  virtual QRect widget_place(const Rect& place) const { return context_.to_pixels(place); }
   /// The common look has changed: texts, fonts, colours.
   virtual void look_changed();
 

@@ -253,6 +253,28 @@ TEST_F(Looks, ChoosingACheckableEntryLeavesTheMarkToTheSuite) {
   EXPECT_TRUE(entry(view(window), "&Hang")->isChecked());
 }
 
+TEST_F(Looks, LyingAndStandingAndSlantingLinesAreSeen) {
+  NotingWindow window(*machine);
+  window.BackColor = white;
+  Line lying(window, u"line_a", {300, 300, 1500, 0});
+  Line standing(window, u"line_b", {300, 900, 0, 1500});
+  Line rising(window, u"line_c", {3000, 900, 1500, 1500});
+  rising.Rising = true;
+  for (Line* line : {&lying, &standing, &rising}) {
+    line->ForeColor = black;
+    line->BorderWidth = 45;
+  }
+  Label corner(window, u"lbl", {0, 0, 15, 15});
+  show(window);
+  const QImage image = picture_of(window);
+  const auto dark = [&](Point place_in_window) { return qGray(image.pixel(place(corner, place_in_window))) < 100; };
+  EXPECT_TRUE(dark({900, 300}));
+  EXPECT_TRUE(dark({300, 1500}));
+  EXPECT_TRUE(dark({3750, 1650}));
+  EXPECT_TRUE(dark({3300, 2100}));
+  EXPECT_FALSE(dark({3300, 1200}));
+}
+
 TEST_F(Looks, TheHourglassIsTheWholeWindows) {
   NotingWindow window(*machine);
   Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
