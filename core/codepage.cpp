@@ -84,7 +84,9 @@ LineReader::LineReader(std::string_view bytes, std::size_t start)
 
 std::string_view LineReader::next() {
   const std::size_t start = position_;
-  const std::size_t line_end = std::min(bytes_.find_first_of("\r\n", start), bytes_.size());
+  const auto ends_line = [](char byte) { return byte == '\r' || byte == '\n'; };
+  const auto found = std::find_if(bytes_.begin() + static_cast<std::ptrdiff_t>(start), bytes_.end(), ends_line);
+  const auto line_end = static_cast<std::size_t>(found - bytes_.begin());
   const bool pair = bytes_.substr(line_end, 2) == "\r\n";
   position_ = std::min(line_end + (pair ? 2 : 1), bytes_.size());
   return bytes_.substr(start, line_end - start);

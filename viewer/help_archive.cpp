@@ -1,6 +1,10 @@
 #include "viewer/help_archive.h"
 
+#include "core/codepage.h"
+
 #include <QStringDecoder>
+#include <QUrl>
+#include <algorithm>
 
 namespace cserko {
 
@@ -8,6 +12,8 @@ namespace {
 
 constexpr int deepest_nesting = 4;
 constexpr qsizetype most_parts = 1000;
+constexpr qsizetype declaration_reach = 1024; // bytes of a page in which it may name its own charset
+constexpr QByteArrayView byte_order_mark = "\xEF\xBB\xBF";
 
 using Headers = QHash<QByteArray, QByteArray>;
 
@@ -25,7 +31,7 @@ qsizetype line_end(const QByteArray& bytes, qsizetype from) {
 Entity split(const QByteArray& bytes) {
   Entity entity;
   QByteArray name;
-  qsizetype at = 0;
+  qsizetype at = bytes.startsWith(byte_order_mark) ? qsizetype(byte_order_mark.size()) : 0;
   while (at < bytes.size()) {
     const qsizetype end = line_end(bytes, at);
     QByteArray line = bytes.mid(at, end - at);
@@ -104,18 +110,39 @@ QByteArray decoded(const Entity& entity) {
   return entity.body;
 }
 
+enum class Line : std::uint8_t { Text, Boundary, LastBoundary };
+
+// A boundary may begin like another one, so the rest of its line must be blank.
+Line kind_of(QByteArrayView line, const QByteArray& mark) {
+  if (!line.startsWith(mark)) return Line::Text;
+  QByteArrayView rest = line.sliced(mark.size());
+  const bool last = rest.startsWith("--");
+  if (last) rest = rest.sliced(2);
+  if (!rest.trimmed().isEmpty()) return Line::Text;
+  return last ? Line::LastBoundary : Line::Boundary;
+}
+
+// The line end before a boundary belongs to the boundary.
+QByteArray without_last_line_end(QByteArray part) {
+  if (part.endsWith('\n')) part.chop(1);
+  if (part.endsWith('\r')) part.chop(1);
+  return part;
+}
+
 // The bodies between the boundary lines. A missing last boundary ends the last part with the file.
 QList<QByteArray> parts_of(const QByteArray& body, const QByteArray& boundary) {
   QList<QByteArray> parts;
   const QByteArray mark = "--" + boundary;
   qsizetype part_start = -1;
-  for (qsizetype at = 0; at < body.size() && parts.size() < most_parts; at = line_end(body, at) + 1) {
-    if (!QByteArrayView(body).sliced(at).startsWith(mark)) continue;
-    if (part_start >= 0) parts += body.mid(part_start, at - part_start);
-    if (QByteArrayView(body).sliced(at + mark.size()).startsWith("--")) return parts;
-    part_start = line_end(body, at) + 1;
+  for (qsizetype at = 0; at < body.size() && parts.size() < most_parts;) {
+    const qsizetype end = line_end(body, at);
+    const Line line = kind_of(QByteArrayView(body).sliced(at, end - at), mark);
+    if (line != Line::Text && part_start >= 0) parts += without_last_line_end(body.mid(part_start, at - part_start));
+    if (line == Line::LastBoundary) return parts;
+    if (line == Line::Boundary) part_start = end + 1;
+    at = end + 1;
   }
-  if (part_start >= 0) parts += body.mid(part_start);
+  if (part_start >= 0 && parts.size() < most_parts) parts += body.mid(part_start);
   return parts;
 }
 
@@ -123,8 +150,27 @@ QString file_name(const QString& location) {
   return location.mid(std::max(location.lastIndexOf('/'), location.lastIndexOf('\\')) + 1);
 }
 
+// The charset that a page names itself, as in <meta charset="utf-8">; empty if it names none.
+QByteArray declared_charset(const QByteArray& page) {
+  const QByteArray head = page.left(declaration_reach).toLower();
+  const qsizetype at = head.indexOf("charset=");
+  if (at < 0) return {};
+  QByteArray name;
+  for (const char c : head.mid(at + 8)) {
+    if (c == '"' || c == '\'') continue;
+    if (c == ' ' || c == '/' || c == '>' || c == ';') break;
+    name += c;
+  }
+  return name;
+}
+
 QString text_of(const ArchivePart& part) {
-  QStringDecoder decoder(part.charset.isEmpty() ? "UTF-8" : part.charset.toLatin1().constData());
+  const QByteArray charset =
+      part.charset.isEmpty() ? declared_charset(part.content) : part.charset.toLatin1().toLower();
+  // The code page of Central Europe is not among the charsets that Qt has everywhere.
+  if (charset == "windows-1250" || charset == "cp1250" || charset == "x-cp1250")
+    return QString::fromStdU16String(from_cp1250({part.content.constData(), std::size_t(part.content.size())}));
+  QStringDecoder decoder(charset.isEmpty() ? "utf-8" : charset.constData());
   if (!decoder.isValid()) decoder = QStringDecoder(QStringDecoder::Utf8);
   return decoder.decode(part.content);
 }
@@ -162,9 +208,11 @@ HelpArchive HelpArchive::read(const QByteArray& bytes) {
 void HelpArchive::add(ArchivePart part, const QString& content_id) {
   const qsizetype at = parts_.size();
   if (!content_id.isEmpty()) index_.insert("cid:" + content_id, at);
-  if (!part.location.isEmpty()) {
-    index_.insert(part.location, at);
-    if (!index_.contains(file_name(part.location))) index_.insert(file_name(part.location), at);
+  // Locations are percent-encoded, references arrive decoded. The first of two parts of one name is the one meant.
+  for (const QString& location : {part.location, QUrl::fromPercentEncoding(part.location.toUtf8())}) {
+    if (location.isEmpty()) continue;
+    if (!index_.contains(location)) index_.insert(location, at);
+    if (!file_names_.contains(file_name(location))) file_names_.insert(file_name(location), at);
   }
   parts_ += std::move(part);
 }
@@ -180,9 +228,9 @@ QString HelpArchive::page() const {
 }
 
 const ArchivePart* HelpArchive::find(const QString& reference) const {
-  auto found = index_.constFind(reference);
-  if (found == index_.constEnd()) found = index_.constFind(file_name(reference));
-  return found == index_.constEnd() ? nullptr : &parts_[*found];
+  if (const auto found = index_.constFind(reference); found != index_.constEnd()) return &parts_[*found];
+  const auto found = file_names_.constFind(file_name(reference));
+  return found == file_names_.constEnd() ? nullptr : &parts_[*found];
 }
 
 } // namespace cserko

@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QHash>
+#include <QList>
 #include <QString>
 
 namespace cserko {
@@ -30,7 +31,8 @@ class HelpArchive {
   void add(ArchivePart part, const QString& content_id);
 
   QList<ArchivePart> parts_;
-  QHash<QString, qsizetype> index_;
+  QHash<QString, qsizetype> index_;      ///< By location and by content id.
+  QHash<QString, qsizetype> file_names_; ///< By the last part of the location.
 };
 
 } // namespace cserko

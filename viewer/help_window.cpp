@@ -9,9 +9,18 @@ namespace cserko {
 
 namespace {
 
-constexpr int smallest_zoom = -6;
-constexpr int largest_zoom = 20;
-constexpr int reading_size = 15; // points
+const QColor paper(255, 248, 231);
+const QColor ink(59, 36, 20);
+
+constexpr const char* bar_style =
+    "QToolBar { background: #f6e6c4; border: none; padding: 6px; spacing: 8px; }"
+    "QToolButton { color: #3b2414; background: #fff8e7; border: 1px solid #b09a7a; border-radius: 8px;"
+    "              padding: 6px 16px; font-family: 'Liberation Serif'; font-size: 13pt; }"
+    "QToolButton:hover { background: #fbeacb; }"
+    "QToolButton:focus { border: 2px solid #1f6f68; }"
+    "QToolButton:disabled { color: #a08b70; background: #f6e6c4; }";
+
+QList<QKeySequence> larger_keys() { return {QKeySequence::ZoomIn, QKeySequence(Qt::CTRL | Qt::Key_Equal)}; }
 
 } // namespace
 
@@ -19,18 +28,17 @@ HelpWindow::HelpWindow() : browser_(new HelpBrowser(this)) {
   setWindowTitle("Súgó");
   resize(900, 700);
   setCentralWidget(browser_);
-  QFont font("Liberation Serif");
-  font.setStyleHint(QFont::Serif);
-  font.setPointSize(reading_size);
-  browser_->setFont(font);
-  QPalette colors = browser_->palette();
-  colors.setColor(QPalette::Base, QColor(255, 248, 231));
-  colors.setColor(QPalette::Text, QColor(59, 36, 20));
-  browser_->setPalette(colors);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  QPalette colors = palette();
+  colors.setColor(QPalette::Window, paper);
+  colors.setColor(QPalette::WindowText, ink);
+  colors.setColor(QPalette::Base, paper);
+  colors.setColor(QPalette::Text, ink);
+  setPalette(colors);
   add_actions();
   connect(browser_, &QTextBrowser::sourceChanged, this, [this] {
     const QString title = browser_->documentTitle();
-    setWindowTitle(title.isEmpty() ? "Súgó" : title);
+    setWindowTitle(title.isEmpty() ? "Súgó" : "Súgó – " + title);
   });
 }
 
@@ -40,26 +48,22 @@ void HelpWindow::add_actions() {
   QToolBar* bar = addToolBar("Súgó");
   bar->setMovable(false);
   bar->setToolButtonStyle(Qt::ToolButtonTextOnly);
-  const auto add = [&](const QString& text, const QKeySequence& key, auto action) {
+  bar->setStyleSheet(bar_style);
+  const auto add = [&](const QString& text, const QList<QKeySequence>& keys, auto action) {
     QAction* entry = bar->addAction(text);
-    entry->setShortcut(key);
-    entry->setToolTip(text + " (" + key.toString(QKeySequence::NativeText) + ")");
+    entry->setShortcuts(keys);
+    entry->setToolTip(text + " (" + keys.first().toString(QKeySequence::NativeText) + ")");
     connect(entry, &QAction::triggered, this, action);
     return entry;
   };
-  QAction* back = add("Vissza", QKeySequence(Qt::ALT | Qt::Key_Left), [this] { browser_->backward(); });
+  QAction* back = add("Vissza", {QKeySequence(Qt::ALT | Qt::Key_Left), QKeySequence(Qt::Key_Backspace)},
+                      [this] { browser_->backward(); });
   back->setEnabled(false);
   connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
-  add("Nagyobb betű", QKeySequence::ZoomIn, [this] { zoom(1); });
-  add("Kisebb betű", QKeySequence::ZoomOut, [this] { zoom(-1); });
-  add("Nyomtatás", QKeySequence::Print, [this] { print_page(); });
-  add("Bezárás", QKeySequence(Qt::Key_Escape), [this] { close(); });
-}
-
-void HelpWindow::zoom(int steps) {
-  const int wanted = qBound(smallest_zoom, zoom_steps_ + steps, largest_zoom);
-  browser_->zoomIn(wanted - zoom_steps_);
-  zoom_steps_ = wanted;
+  add("Nagyobb betű", larger_keys(), [this] { browser_->zoom(1); });
+  add("Kisebb betű", {QKeySequence::ZoomOut}, [this] { browser_->zoom(-1); });
+  add("Nyomtatás", {QKeySequence::Print}, [this] { print_page(); });
+  add("Bezárás", {QKeySequence(Qt::Key_Escape)}, [this] { close(); });
 }
 
 void HelpWindow::print_page() {

@@ -10,16 +10,15 @@ namespace cserko {
 class HelpWindow : public QMainWindow {
  public:
   HelpWindow();
+  /// Opens the page of a path; see HelpBrowser::open.
   void open(const QString& path);
   HelpBrowser& browser() { return *browser_; }
 
  private:
   void add_actions();
-  void zoom(int steps);
   void print_page();
 
   HelpBrowser* browser_;
-  int zoom_steps_ = 0;
 };
 
 } // namespace cserko

@@ -1,16 +1,15 @@
 // The help viewer: shows the page that the rest of the command line names, blanks included.
 
 #include "viewer/help_window.h"
+#include "viewer/page_path.h"
 
 #include <QApplication>
 
 int main(int argc, char** argv) {
-  QApplication application(argc, argv);
+  const QApplication application(argc, argv);
   QApplication::setApplicationName("tintabrowser");
-  QStringList words = QCoreApplication::arguments();
-  words.removeFirst();
   cserko::HelpWindow window;
-  window.open(words.join(' '));
+  window.open(cserko::page_path(QCoreApplication::arguments().mid(1)));
   window.showMaximized();
   return QApplication::exec();
 }

@@ -24,6 +24,7 @@ frm_képmem_beáll::frm_képmem_beáll(Session& session)
   párbeállítás.design(1, {120, 780, 2280, 420}, u"Kép - Szó");
   optnyelv.design(4, {120, 780, 2280, 420}, u"Angol");
   párbeállítás[1].set_value(true);
+  optnyelv[2].set_value(true);
   HScroll_anim_finomság.SmallChange = 5;
   HScroll_anim_finomság.LargeChange = 10;
   HScroll_anim_finomság.set_value(10);

@@ -41,8 +41,8 @@ class frm_képmem_beáll : public SettingsDialog {
   Frame Frame_pár{*this, u"Frame_pár", {120, 5040, 2580, 1320}, u"Párok"};
   ElementArray<OptionButton> párbeállítás{Frame_pár, u"párbeállítás", {120, 360, 2280, 420}, TextView(u"Kép - Kép")};
   Frame Frame_nyelv{*this, u"Frame_nyelv", {2820, 5040, 2580, 1320}, u"Nyelv"};
-  ElementArray<OptionButton> optnyelv{Frame_nyelv,           u"optnyelv",         FirstIndex{2},
-                                      {120, 360, 2280, 420}, TextView(u"Magyar"), true};
+  ElementArray<OptionButton> optnyelv{
+      Frame_nyelv, u"optnyelv", FirstIndex{2}, {120, 360, 2280, 420}, TextView(u"Magyar")};
 
   Button cmd_ok{*this, u"cmd_ok", {120, 6480, 1680, 660}, u"OK"};
   Button cmd_mégsem{*this, u"cmd_mégsem", {1920, 6480, 1740, 660}, u"Mégsem"};

@@ -62,6 +62,8 @@ void frm_igazhamis::feladat_kirakása() {
 }
 
 void frm_igazhamis::lbl_állítás_click(int index) {
+  // Where the last deal failed the statements are empty.
+  if (lbl_állítás[index].Caption.empty()) return;
   if (lbl_állítás[index].Caption != képek()[aktuális_kép_].igaz) {
     hiba_hang(session());
     return;

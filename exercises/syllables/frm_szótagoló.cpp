@@ -56,7 +56,7 @@ frm_szótagoló::frm_szótagoló(Session& session)
     húzás_kezdete_ = rounded(event.x);
     pulled_ = false;
   };
-  betű.MouseUp = [this](int, const MouseEvent&) { húzás_kezdete_ = -1; };
+  betű.MouseUp = [this](int letter, const MouseEvent& event) { letter_released(letter, event); };
   betű.MouseMove = [this](int letter, const MouseEvent& event) { letter_moved(letter, event.x); };
   betű.Click = [this](int letter) { letter_clicked(letter); };
   cmd_kész.Default = true;
@@ -183,16 +183,25 @@ void frm_szótagoló::open_break(int letter) {
 void frm_szótagoló::letter_moved(int letter, double x) {
   if (igazítás_alatt_ || húzás_kezdete_ == -1) return;
   if (std::abs(húzás_kezdete_ - x) < betű[letter].Width / 4 || letter == 0) return;
+  pulled_ = true;
   const bool pushed_left = x < húzás_kezdete_;
   if (pushed_left != break_before(letter)) return;
   igazítás_alatt_ = true;
-  pulled_ = true;
   if (pushed_left) {
     close_break(letter);
   } else {
     open_break(letter);
   }
   igazítás_alatt_ = false;
+}
+
+void frm_szótagoló::letter_released(int letter, const MouseEvent& event) {
+  húzás_kezdete_ = -1;
+  // Only a left release inside the letter is a click as well. No other one may leave a pull behind, which would keep
+  // the next space bar from its effect.
+  const Label& label = betű[letter];
+  const bool inside = event.x >= 0 && event.x < label.Width && event.y >= 0 && event.y < label.Height;
+  if (event.button != MouseButton::Left || !inside) pulled_ = false;
 }
 
 void frm_szótagoló::letter_clicked(int letter) {

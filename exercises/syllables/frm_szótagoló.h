@@ -64,6 +64,7 @@ class frm_szótagoló : public ExerciseWindow {
   Text row_text() const;
 
   void letter_moved(int letter, double x);
+  void letter_released(int letter, const MouseEvent& event);
   void letter_clicked(int letter);
   bool break_before(int letter) const;
   void open_break(int letter);
@@ -76,7 +77,7 @@ class frm_szótagoló : public ExerciseWindow {
   int aktuális_kép_ = -1;
   int húzás_kezdete_ = -1;      ///< Where the pressed letter was pressed, in its own twips; -1: none is.
   bool igazítás_alatt_ = false; ///< A break changes and the row is not laid out again yet.
-  bool pulled_ = false;         ///< The press that is on has changed a break.
+  bool pulled_ = false;         ///< The press that is on has become a pull, whether or not a break has changed.
 };
 
 } // namespace cserko

@@ -1,0 +1,15 @@
+// What a strip of solved tasks tells a player.
+#pragma once
+
+#include "platform/element_array.h"
+
+namespace cserko {
+
+/// A number that changes with every task that is solved, from the strip and the sets that are behind it.
+inline int task_number(const ElementArray<Label>& strip, int sets) {
+  int filled = 0;
+  strip.each([&](const Label& label) { filled += label.Caption.empty() ? 0 : 1; });
+  return sets * (strip.count() + 1) + filled;
+}
+
+} // namespace cserko

@@ -1,0 +1,83 @@
+#include "tests/players/szótagoló_player.h"
+
+#include "tests/players/strip.h"
+
+#include <algorithm>
+
+namespace cserko {
+
+namespace {
+
+bool break_after(const Label& letter) { return letter.Caption.ends_with(u'-'); }
+
+// Before which letters the word has a break. Nothing where the row cannot become the word.
+std::optional<std::vector<bool>> wanted_breaks(const frm_szótagoló& exercise, TextView syllables) {
+  std::vector<bool> breaks(static_cast<std::size_t>(exercise.betű.count()), false);
+  TextView rest = syllables;
+  for (int i = 0; i < exercise.betű.count(); ++i) {
+    const bool halved = exercise.betű.loaded(i + 1) && exercise.betű[i + 1].Tag == u"3";
+    Text closed = exercise.betű[i].Caption;
+    if (break_after(exercise.betű[i])) closed.pop_back();
+    if (halved) closed = closed.substr(0, 1);
+    const Text open = (halved ? exercise.betű[i + 1].Caption : closed) + u"-";
+    const bool opened = exercise.betű.loaded(i + 1) && rest.starts_with(open);
+    if (!opened && !rest.starts_with(closed)) return std::nullopt;
+    if (opened) breaks[static_cast<std::size_t>(i) + 1] = true;
+    rest.remove_prefix(opened ? open.size() : closed.size());
+  }
+  return rest.empty() ? std::optional(breaks) : std::nullopt;
+}
+
+} // namespace
+
+bool SzótagolóPlayer::play(Window& window, Hand& hand) {
+  auto& exercise = dynamic_cast<frm_szótagoló&>(window);
+  if (exercise.aktuális_kép() < 0) return false;
+  const auto wanted = wanted_breaks(exercise, records()[exercise.aktuális_kép()].szótagolt);
+  if (!wanted) return false;
+  int first_wrong = 0;
+  for (int i = exercise.betű.count() - 1; i > 0; --i) {
+    if (break_after(exercise.betű[i - 1]) != (*wanted)[static_cast<std::size_t>(i)]) first_wrong = i;
+  }
+  if (mistake_due(task_number(exercise.lbl_eredmény, sets()))) {
+    if (first_wrong > 0) {
+      if (answer(exercise, hand)) mistake_made();
+      return true;
+    }
+    if (exercise.betű.count() > 1) {
+      change_break(exercise, 1, hand);
+      return true;
+    }
+    forgo_mistake();
+  }
+  if (first_wrong > 0) {
+    change_break(exercise, first_wrong, hand);
+  } else {
+    answer(exercise, hand);
+  }
+  return true;
+}
+
+void SzótagolóPlayer::change_break(frm_szótagoló& exercise, int letter, Hand& hand) {
+  Label& label = exercise.betű[letter];
+  const bool open = break_after(exercise.betű[letter - 1]);
+  if (!by_mouse() || letter % 2 == 0) {
+    choose(label, hand);
+    return;
+  }
+  // Far enough that the row, which moves under the pointer, does not change it back.
+  const double hyphen = exercise.platform().measure(label.Font, u"-").width;
+  const double far = label.Width / 2 + hyphen;
+  hand.drag(label, open ? -far : far, 0);
+}
+
+bool SzótagolóPlayer::answer(frm_szótagoló& exercise, Hand& hand) const {
+  if (by_mouse()) {
+    hand.click(exercise.cmd_kész);
+  } else {
+    hand.key(key::enter, shift::none);
+  }
+  return true;
+}
+
+} // namespace cserko
