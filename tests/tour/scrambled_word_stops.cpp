@@ -165,6 +165,7 @@ class Stops {
       platform_.missing_pictures = {session_.képek[game(window).feladat_index()].wmf};
     });
     solve("solved-without-picture", "congratulation-again");
+    guide_.act(exercise, [*this](Window&) { platform_.missing_pictures.clear(); });
   }
 
   void nothing_fits() const {
