@@ -7,6 +7,10 @@
 #include "feedback/feedback.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
+#include "tests/players/igazhamis_player.h"
+#include "tests/players/képmemória_player.h"
+#include "tests/players/mondatkép_player.h"
+#include "tests/players/szótagoló_player.h"
 #include "tests/soak/restless_person.h"
 #include "tests/suite/memory_pack.h"
 
@@ -22,6 +26,21 @@ void copy_files(const MemoryFiles& from, MemoryFiles& to) {
   for (const Text& path : from.all()) to.put(path, from.read(path).value_or(""));
 }
 
+using Players = std::vector<std::unique_ptr<Player>>;
+
+Players all_players(const Session& session) {
+  constexpr int mistakes = 3;
+  constexpr auto mouse = ExercisePlayer::Mode::Mouse;
+  constexpr auto keyboard = ExercisePlayer::Mode::Keyboard;
+  Players players;
+  players.push_back(std::make_unique<CserkóPlayer>(session, CserkóPlayer::Mode::Mouse, mistakes));
+  players.push_back(std::make_unique<IgazhamisPlayer>(session, mouse, mistakes));
+  players.push_back(std::make_unique<KépmemóriaPlayer>(session, mouse, mistakes));
+  players.push_back(std::make_unique<MondatképPlayer>(session, keyboard, mistakes));
+  players.push_back(std::make_unique<SzótagolóPlayer>(session, keyboard, mistakes));
+  return players;
+}
+
 // One run of the program, from its start until the person leaves or has had enough. False if anything was reported.
 bool run(HeadlessPlatform& machine, RestlessPerson& person) {
   person.sit_down(machine);
@@ -29,10 +48,16 @@ bool run(HeadlessPlatform& machine, RestlessPerson& person) {
   install_feedback(session);
   install_exercises(session);
   HeadlessHand hand(machine);
-  std::optional<CserkóPlayer> player;
+  Players players;
+  std::size_t turn = 0;
   person.sensible = [&](Window& top) {
-    if (!player) player.emplace(session, CserkóPlayer::Mode::Mouse, 3);
-    return player->step(top, hand);
+    if (players.empty()) players = all_players(session);
+    // In the main window the next player starts an exercise; elsewhere whoever knows the window plays on.
+    if (top.Name == u"frm_főablak") ++turn;
+    for (std::size_t i = 0; i < players.size(); ++i) {
+      if (players[(turn + i) % players.size()]->step(top, hand)) return true;
+    }
+    return false;
   };
   session.Main();
   for (const Text& error : machine.errors) std::cerr << "reported: " << to_utf8(error) << '\n';
