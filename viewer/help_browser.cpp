@@ -63,7 +63,7 @@ void HelpBrowser::open(const QString& path) {
 void HelpBrowser::doSetSource(const QUrl& name, QTextDocument::ResourceType) {
   const QUrl target = source().isEmpty() ? name : source().resolved(name);
   // A link to anywhere else does nothing.
-  QTextBrowser::doSetSource(target, QTextDocument::HtmlResource);
+  if (is_here(target)) QTextBrowser::doSetSource(target, QTextDocument::HtmlResource);
 }
 
 QVariant HelpBrowser::loadResource(int type, const QUrl& name) {

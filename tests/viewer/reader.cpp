@@ -39,7 +39,7 @@ QList<ShownPicture> pictures(HelpBrowser& browser) {
 bool click_link(HelpBrowser& browser, const QString& target) {
   int position = -1;
   each_fragment(browser, [&](const QTextFragment& text) {
-    if (text.charFormat().anchorHref() == target) position = text.position() + 1;
+    if (text.charFormat().anchorHref() == target) position = text.position() + text.length() / 2;
   });
   if (position < 0) return false;
   QTextCursor cursor(browser.document());

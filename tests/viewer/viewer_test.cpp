@@ -149,12 +149,13 @@ TEST_F(Viewer, FetchesNothingFromElsewhere) {
 }
 
 TEST_F(Viewer, OpensNoLinkThatLeadsOut) {
-  put("a.mht", page_of("<p>x <a href=\"https://example.com/\">a</a> <a href=\"mailto:x@example.com\">b</a> "
-                       "<a href=\"file://server/share/c.mht\">c</a> <a href=\"javascript:x\">d</a></p>"));
+  put("a.mht", page_of("<p>x <a href=\"https://example.com/\">link a</a> <a href=\"mailto:x@example.com\">link b</a> "
+                       "<a href=\"file://server/share/c.mht\">link c</a> <a href=\"javascript:x\">link d</a></p>"));
   open("a.mht");
   show();
   LinkCatcher catcher;
   const QUrl here = window.browser().source();
+  ASSERT_EQ(links(window.browser()).size(), 4);
   for (const QString& link : links(window.browser())) {
     ASSERT_TRUE(click_link(window.browser(), link));
     EXPECT_EQ(window.browser().source(), here) << link.toStdString();
