@@ -35,10 +35,20 @@ void frmháttér::Activate() {
   platform().bring_to_front(*this);
   show_time();
   Enabled = false;
+  try {
+    play();
+  } catch (...) {
+    // Without an exercise nobody could close the backdrop: it takes no clicks.
+    session_.unload(*this);
+    throw;
+  }
+  session_.unload(*this);
+}
+
+void frmháttér::play() {
   Window& exercise = feladat();
   platform().show_modal(exercise);
   session_.unload(exercise);
-  session_.unload(*this);
 }
 
 void frmháttér::show_time() {

@@ -19,6 +19,7 @@ class frmháttér : public Window {
   void Activate() override;
 
  private:
+  void play();
   void show_time();
 
   Session& session_;

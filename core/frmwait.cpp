@@ -18,6 +18,6 @@ bool frmwait::wait(int ms) {
   return true;
 }
 
-bool wait(Session& session, int ms) { return session.window<frmwait>().wait(ms); }
+bool wait(Session& session, int ms) { return session.make_window<frmwait>().wait(ms); }
 
 } // namespace cserko

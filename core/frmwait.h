@@ -20,7 +20,7 @@ class frmwait : public Window {
   int ticks_ = 0;
 };
 
-/// One pause with a window of its own.
+/// One pause with a window of its own, so that an event that happens meanwhile may pause too.
 bool wait(Session& session, int ms);
 
 } // namespace cserko

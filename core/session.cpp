@@ -43,7 +43,13 @@ Window& Session::adopt(std::type_index type, std::unique_ptr<Window> window) {
   loaded_.push_back(std::make_unique<Loaded>(Loaded{type, std::move(window), event_depth_}));
   adopted.set_inner_size(adopted.design_size());
   platform_.attach(adopted);
-  adopted.Load();
+  try {
+    adopted.Load();
+  } catch (...) {
+    // Half loaded it would stand in the way of the next try.
+    if (is_loaded(adopted)) take_away(adopted);
+    throw;
+  }
   return adopted;
 }
 
@@ -70,11 +76,15 @@ void Session::unload(Window& window) {
     throw;
   }
   entry.unloading = false;
-  if (cancel) return;
+  // The handlers may have loaded or unloaded other windows: the entry is looked up again.
+  if (!cancel) take_away(window);
+}
+
+void Session::take_away(Window& window) {
   platform_.hide(window);
   platform_.detach(window);
-  // The handlers may have loaded or unloaded other windows: look the entry up again.
-  const auto gone = std::find_if(loaded_.begin(), loaded_.end(), matches);
+  const auto gone =
+      std::find_if(loaded_.begin(), loaded_.end(), [&](const auto& entry) { return entry->window.get() == &window; });
   unloaded_.push_back(std::move(*gone));
   loaded_.erase(gone);
 }

@@ -45,11 +45,14 @@ class Session : public Host {
   /// Reads all records behind the progress window.
   void képadatok_betöltése();
 
-  /// The window of a class; created, and its load handler run, on first touch.
+  /// The window of a class; created, and its load handler run, on first touch. A window whose load handler throws is
+  /// not loaded.
   template<class W> W& window() {
     if (Window* found = loaded_window(typeid(W))) return static_cast<W&>(*found);
-    return static_cast<W&>(adopt(typeid(W), std::make_unique<W>(*this)));
+    return make_window<W>();
   }
+  /// A new window of a class that may be loaded several times at once.
+  template<class W> W& make_window() { return static_cast<W&>(adopt(typeid(W), std::make_unique<W>(*this))); }
   template<class W> bool loaded() const { return loaded_window(typeid(W)) != nullptr; }
 
   /// Makes a window known by its name, so that lower layers can open it.
@@ -80,6 +83,7 @@ class Session : public Host {
 
   Window* loaded_window(std::type_index type) const;
   Window& adopt(std::type_index type, std::unique_ptr<Window> window);
+  void take_away(Window& window);
   void prepare();
   void run_main_windows();
   void close_down();

@@ -239,6 +239,22 @@ TEST_F(BackdropTest, AnExerciseIsMadeAnewForEachStart) {
   });
 }
 
+TEST_F(BackdropTest, AnExerciseThatCannotOpenIsReportedAndDoesNotLeaveTheBackdropBehind) {
+  struct Broken : PlainWindow {
+    explicit Broken(Session& s) : PlainWindow(s, u"broken") {}
+    void Load() override { throw std::runtime_error("a.txt nem olvasható"); }
+  };
+  for (std::size_t start = 1; start <= 2; ++start) {
+    run_on_backdrop(session(), [this]() -> Window& { return load<Broken>(); });
+    EXPECT_FALSE(session().loaded<frmháttér>());
+    EXPECT_FALSE(session().loaded<Broken>()) << "half loaded it would be shown at the next start";
+    EXPECT_EQ(machine.active_window(), nullptr);
+    expected_errors = start;
+    ASSERT_EQ(machine.errors.size(), start);
+    EXPECT_NE(utf8(machine.errors.back()).find("a.txt nem olvasható"), std::string::npos);
+  }
+}
+
 // The common pause.
 
 TEST_F(FrameTest, AWaitLastsTwoTicksAndUnloadsItself) {
@@ -251,6 +267,30 @@ TEST_F(FrameTest, AWaitIsAtMostTwiceSixtyFiveSeconds) {
   machine.patience = 1000000;
   EXPECT_TRUE(wait(session(), 70000));
   EXPECT_EQ(machine.now(), 2 * 65535);
+}
+
+TEST_F(FrameTest, AWaitOfNoTimeEndsToo) {
+  EXPECT_TRUE(wait(session(), 0));
+  EXPECT_EQ(machine.now(), 2 * idle_pace);
+}
+
+TEST_F(FrameTest, AnEventDuringAWaitMayWaitItselfAndShortensNothing) {
+  struct Waiting : PlainWindow {
+    explicit Waiting(Session& s) : PlainWindow(s, u"waiting") {
+      timer.Tick = [this, &s] {
+        timer.Enabled = false;
+        EXPECT_TRUE(wait(s, 20));
+        inner_end = platform().now();
+      };
+    }
+    Timer timer{*this, u"timer", 30};
+    std::int64_t inner_end = 0;
+  };
+  const auto& window = load<Waiting>();
+  EXPECT_TRUE(wait(session(), 100));
+  EXPECT_EQ(window.inner_end, 30 + 2 * 20);
+  EXPECT_EQ(machine.now(), 2 * 100);
+  EXPECT_FALSE(session().loaded<frmwait>());
 }
 
 TEST_F(FrameTest, EventsOfOtherWindowsHappenDuringAWait) {
