@@ -133,6 +133,7 @@ TEST_F(RecordsTest, AnEmptyOrMissingFolderGivesOneEmptyRecord) {
   EXPECT_EQ(records.képszám, 0);
   EXPECT_EQ(records.left_out(), 0);
   EXPECT_EQ(records[0].wms, records_folder);
+  EXPECT_EQ(records[0].wmf, folder + u"kepwmf") << "the last three characters give way as in any name";
   for (const Text& field : {records[0].név, records[0].angol, records[0].szótagolt, records[0].meghatározás,
                             records[0].igaz, records[0].hamis})
     EXPECT_EQ(field, u"");

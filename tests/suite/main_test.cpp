@@ -215,6 +215,8 @@ TEST_F(MainTest, TickingTheGraphicOptionBringsTheGraphicWindowAndUntickingTheTex
   then_in<frm_főablak>([](frm_főablak& window) {
     hand::click(window.mnu_fájl_főablak_beállításai);
     EXPECT_TRUE(window.visible());
+    EXPECT_TRUE(window.Timer1.Enabled);
+    EXPECT_EQ(window.cserélő, -100) << "a new picture is due, as after an exercise";
     hand::key(window, key::escape);
   });
   then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
@@ -223,6 +225,8 @@ TEST_F(MainTest, TickingTheGraphicOptionBringsTheGraphicWindowAndUntickingTheTex
   });
   then([this](Window& window) {
     EXPECT_FALSE(load<frm_főablak>().visible());
+    EXPECT_FALSE(load<frm_főablak>().Timer1.Enabled) << "the decoration rests while the other window is there";
+    load<frm_főablak>().cserélő = 7;
     load<frm_főablak_beállítások>().chk_grafikus_főablak.set_value(0);
     hand::close(window);
   });

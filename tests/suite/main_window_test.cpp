@@ -262,6 +262,18 @@ TEST_F(MainWindowTest, TheDrumFromTheMenuHasNoTimeLimit) {
   hand::click(window().mnu_jutalomjáték_dobolás);
 }
 
+TEST_F(MainWindowTest, TheDecorationGoesOnUnderAReward) {
+  auto& main = window();
+  then_in<frm_dobszerkó>([&](frm_dobszerkó& drum) {
+    EXPECT_TRUE(main.Timer1.Enabled);
+    const int before = main.cserélő;
+    machine.advance(200);
+    EXPECT_GT(main.cserélő, before);
+    hand::close(drum);
+  });
+  hand::click(main.mnu_jutalomjáték_dobolás);
+}
+
 TEST_F(MainWindowTest, TheDrawingFromTheMenuHasNoTimeLimit) {
   session().offer<DrawingWindow>(u"frm_rajz");
   then_in<DrawingWindow>([](DrawingWindow& drawing) {
@@ -393,6 +405,18 @@ TEST_F(MainSettingsTest, ABrokenOrderFileIsIgnored) {
   machine.files().put(u"c:\\pomzu\\cserk.pmz", "\x01\x02 zzz");
   open<frm_főablak>();
   EXPECT_EQ(load<frm_főablak_beállítások>().rajz.value(), 1);
+}
+
+TEST_F(MainSettingsTest, AChoiceHoldsAgainstAnOlderOrderFileWhenTheMainWindowComesBack) {
+  machine.files().put(u"c:\\pomzu\\cserk.pmz", " 0 \r\n 0 \r\n");
+  auto& main = open<frm_főablak>();
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& boxes) {
+    hand::click(boxes.rajz);
+    hand::click(boxes.OKButton);
+  });
+  hand::click(main.mnu_fájl_főablak_beállításai);
+  EXPECT_EQ(load<frm_főablak_beállítások>().rajz.value(), 1);
+  EXPECT_EQ(load<frm_főablak_beállítások>().Chkcserkózás.value(), 0);
 }
 
 TEST_F(MainSettingsTest, TheOrderFileIsReadAtEveryActivation) {
