@@ -11,7 +11,8 @@ namespace cserko {
 namespace {
 
 constexpr int deepest_nesting = 4;
-constexpr qsizetype most_parts = 1000;
+constexpr qsizetype most_parts = 1000; // of an archive; what is behind them is left out
+constexpr qsizetype most_headers = 200;
 constexpr qsizetype declaration_reach = 1024; // bytes of a page in which it may name its own charset
 constexpr QByteArrayView byte_order_mark = "\xEF\xBB\xBF";
 
@@ -43,6 +44,10 @@ Entity split(const QByteArray& bytes) {
     if (folded && !name.isEmpty()) {
       entity.headers[name] += ' ' + line.trimmed();
     } else if (colon > 0) {
+      if (entity.headers.size() >= most_headers) {
+        name.clear();
+        continue;
+      }
       name = line.left(colon).trimmed().toLower();
       entity.headers[name] = line.mid(colon + 1).trimmed();
     }
@@ -181,7 +186,9 @@ void collect(const Entity& entity, int depth, QList<std::pair<ArchivePart, QStri
   const QByteArray boundary = parameter(type, "boundary");
   if (type.toLower().startsWith("multipart/") && !boundary.isEmpty()) {
     if (depth >= deepest_nesting) return;
-    for (const QByteArray& part : parts_of(entity.body, boundary)) collect(split(part), depth + 1, leaves);
+    for (const QByteArray& part : parts_of(entity.body, boundary)) {
+      if (leaves.size() < most_parts) collect(split(part), depth + 1, leaves);
+    }
     return;
   }
   const qsizetype semicolon = type.indexOf(';');

@@ -154,5 +154,19 @@ TEST(HelpArchive, BoundsTheNumberOfParts) {
   EXPECT_EQ(HelpArchive::read(bytes).count(), 1000);
 }
 
+TEST(HelpArchive, BoundsTheNumberOfPartsWithinPartsToo) {
+  QByteArray bytes = "Content-Type: multipart/related; boundary=x\n\n";
+  for (int i = 0; i < 50; ++i)
+    bytes += "--x\nContent-Type: multipart/mixed; boundary=y\n\n" + QByteArray("--y\n\n").repeated(60);
+  EXPECT_EQ(HelpArchive::read(bytes).count(), 1000);
+}
+
+TEST(HelpArchive, LeavesOutHeadersBeyondAllReason) {
+  QByteArray bytes;
+  for (int i = 0; i < 1000; ++i) bytes += "X-" + QByteArray::number(i) + ": x\n";
+  EXPECT_EQ(page(bytes + "Content-Type: text/html\n\n<p>x</p>"), "");
+  EXPECT_EQ(page("Content-Type: text/html\n" + bytes + " folded\n\n<p>x</p>"), "<p>x</p>");
+}
+
 } // namespace
 } // namespace cserko::test
