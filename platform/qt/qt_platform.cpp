@@ -168,7 +168,7 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
   }
   case QEvent::WindowActivate:
     if (WindowView* view = live_view(object); view == object && view != nullptr && view->model().visible() && !quiet_)
-      act([&window = view->model()] { input::activate(window); });
+      act([this, &window = view->model()] { activate(window); });
     return false;
   default:
     return false;
@@ -269,11 +269,20 @@ void QtPlatform::first_focus(Window& window) {
   if (window.focus() == nullptr) window.set_focus(input::next_focus(window, false));
 }
 
+// The window system may tell of a window what `show_modal` has told already, or of one that was in front all the time
+// while the user was in another program.
+void QtPlatform::activate(Window& window) {
+  if (active_ == &window) return;
+  active_ = &window;
+  input::activate(window);
+}
+
 void QtPlatform::open_view(Window& window, bool modal) {
   Window* before = active_window();
   auto& view = views_[&window];
   if (!view) view = std::make_unique<WindowView>(window, context_);
   window.set_visible(true);
+  active_ = nullptr;
   stack_.erase(std::remove(stack_.begin(), stack_.end(), &window), stack_.end());
   stack_.push_back(&window);
   first_focus(window);
@@ -294,7 +303,10 @@ void QtPlatform::show_modal(Window& window) {
   open_view(window, true);
   sync_all();
   run_loop([&window] { return !window.visible(); });
-  if (!ended_) sync_all();
+  if (ended_) return;
+  // The window system tells later; what the caller does behind the show must come after it.
+  if (Window* front = active_window()) activate(*front);
+  sync_all();
 }
 
 void QtPlatform::show(Window& window) {
@@ -304,6 +316,7 @@ void QtPlatform::show(Window& window) {
 
 void QtPlatform::hide(Window& window) {
   window.set_visible(false);
+  if (active_ == &window) active_ = nullptr;
   if (WindowView* view = view_of(window)) view->hide();
   leave_finished_loops();
   if (std::erase(stack_, &window) == 0) return;

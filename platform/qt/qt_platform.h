@@ -104,6 +104,7 @@ class QtPlatform : public QObject, public Platform {
   void note_keyboard(bool used);
   void open_view(Window& window, bool modal);
   void first_focus(Window& window);
+  void activate(Window& window);
   void paint_now(WindowView& view);
   void drop_queued_input();
   QString helper_program(const QString& name) const;
@@ -118,6 +119,7 @@ class QtPlatform : public QObject, public Platform {
   QElapsedTimer frame_;
   std::vector<Window*> attached_;
   std::vector<Window*> stack_;
+  const Window* active_ = nullptr; ///< The window whose `Activate` ran last, until another one comes over it.
   std::vector<RunningLoop> loops_;
   std::unordered_map<const Window*, std::unique_ptr<WindowView>> views_;
   std::unordered_map<std::uint64_t, RunningTimer> timers_;

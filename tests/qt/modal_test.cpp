@@ -128,6 +128,19 @@ TEST_F(Modal, ActivateComesEachTimeTheWindowComesToTheFront) {
   EXPECT_EQ(inner.activations, 1);
 }
 
+TEST_F(Modal, TheWindowBehindIsActivatedBeforeTheShowReturnsAndNotOnceMoreLater) {
+  NotingWindow outer(*machine);
+  NotingWindow inner(*machine, {3000, 3000});
+  show(outer);
+  ASSERT_TRUE(wait_for([&] { return outer.activations == 1; }));
+  when_shown(inner, [&] { machine->hide(inner); });
+  machine->show_modal(inner);
+  EXPECT_EQ(outer.activations, 2) << "what the caller sets behind the show must stand";
+  EXPECT_TRUE(wait_for([&] { return view(outer).isActiveWindow(); }));
+  QTest::qWait(50);
+  EXPECT_EQ(outer.activations, 2);
+}
+
 TEST_F(Modal, AFrontWindowOpenedWithinActivateIsFine) {
   // The backdrop shows its exercise from its own Activate.
   struct Backdrop : NotingWindow {
