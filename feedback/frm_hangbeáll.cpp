@@ -102,7 +102,7 @@ void frm_hangbeáll::delete_selected_file() {
   platform().files().remove(sound_folder() + name);
   Filelist.refresh();
   for (const SoundList& sounds : lists_) {
-    if (const int found = sounds.list.find(name); found >= 0) sounds.list.remove(found);
+    for (int found = sounds.list.find(name); found >= 0; found = sounds.list.find(name)) sounds.list.remove(found);
   }
   refresh_labels();
   refresh_buttons();

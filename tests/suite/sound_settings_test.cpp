@@ -102,8 +102,11 @@ TEST_F(SoundDialogTest, WithAnEmptyFileTheDesignStandsAndTheListsAreEmpty) {
   const frm_hangbeáll design(session());
   auto& d = open<frm_hangbeáll>();
   EXPECT_EQ(d.chk_hang_a_gratulálópanelen.value(), design.chk_hang_a_gratulálópanelen.value());
+  EXPECT_EQ(d.chk_hang_a_feladatokban_helyes.value(), design.chk_hang_a_feladatokban_helyes.value());
+  EXPECT_EQ(d.chk_hang_a_feladatokban_hiba.value(), design.chk_hang_a_feladatokban_hiba.value());
+  EXPECT_EQ(d.chk_hangjelzés_segítségkérés.value(), design.chk_hangjelzés_segítségkérés.value());
   EXPECT_EQ(d.chk_hang_a_főablakban.value(), design.chk_hang_a_főablakban.value());
-  EXPECT_EQ(d.lst_gratulahang.count(), 0);
+  for (const ListBox* list : {&d.lst_gratulahang, &d.lst_helyeshang, &d.Lst_hibahang}) EXPECT_EQ(list->count(), 0);
 }
 
 TEST_F(SoundDialogTest, ThreeLinesOnlySetThreeBoxes) {
@@ -142,6 +145,14 @@ TEST_F(SoundDialogTest, OkStopsTheSoundWritesThreeFilesAndHides) {
 TEST_F(SoundDialogTest, TheFilesLieUnderTheApplicationFolderAlone) {
   hand::click(dialog().cmd_ok);
   EXPECT_FALSE(machine.files().folder_exists(u"c:\\pomzu"));
+}
+
+TEST_F(SoundDialogTest, ListsAmongTheSettingsOfTheUserAreNotRead) {
+  put_settings(u"grathang.ini", {u" 0 ", u" 0 ", u" 0 ", u" 0 ", u" 0 ", u"a.wav"});
+  put_settings(u"hibahang.ini", {u"a.wav"});
+  auto& d = dialog();
+  EXPECT_TRUE(d.chk_hang_a_gratulálópanelen.ticked());
+  EXPECT_EQ(entries(d.lst_gratulahang) + entries(d.Lst_hibahang), "");
 }
 
 TEST_F(SoundDialogTest, AReadOnlyFolderIsReportedAndTheDialogCloses) {
@@ -260,6 +271,36 @@ TEST_F(SoundDialogTest, TheDeleteKeyDeletesToo) {
   EXPECT_EQ(entries(d.Filelist), "a.wav c.wav ");
 }
 
+TEST_F(SoundDialogTest, TheDeleteKeyOnAnotherListDeletesNothing) {
+  put_lists();
+  auto& d = dialog();
+  hand::select(d.Filelist, u"b.wav");
+  hand::select(d.Lst_hibahang, u"a.wav");
+  hand::key(d, 46);
+  EXPECT_EQ(entries(d.Filelist), "a.wav b.wav c.wav ");
+  EXPECT_EQ(entries(d.Lst_hibahang), "c.wav a.wav ");
+}
+
+TEST_F(SoundDialogTest, ANameThatStandsTwiceInAListGoesWithItsFile) {
+  put_app_file(u"cserko\\hibahang.ini", u"a.wav\r\nb.wav\r\na.wav\r\n");
+  auto& d = dialog();
+  hand::select(d.Filelist, u"a.wav");
+  hand::click(d.cmd_hangtörlése);
+  EXPECT_EQ(entries(d.Lst_hibahang), "b.wav ");
+}
+
+TEST_F(SoundDialogTest, AfterADeletionNothingIsSelectedAndTheCountsAreNew) {
+  put_lists();
+  auto& d = dialog();
+  hand::select(d.Lst_hibahang, u"a.wav");
+  hand::select(d.Filelist, u"a.wav");
+  hand::click(d.cmd_hangtörlése);
+  EXPECT_EQ(utf8(d.Label_hangszám.Caption), "2 hang áll rendelkezésemre");
+  EXPECT_EQ(utf8(d.Label_hibahang.Caption), "1 hang");
+  for (const Button* button : {&d.cmd_hibahang_add, &d.cmd_play, &d.cmd_hangtörlése, &d.cmd_hangtörl_hibahangból})
+    EXPECT_FALSE(button->Enabled) << utf8(button->Name);
+}
+
 TEST_F(SoundDialogTest, DeletingChangesTheListFilesOnlyOnOk) {
   put_lists();
   auto& d = dialog();
@@ -348,11 +389,18 @@ TEST_F(SoundDialogTest, EachListTellsItsCount) {
 }
 
 TEST_F(SoundDialogTest, TheThreeListsShareOnePairOfButtonPictures) {
+  put_app_file(u"cserko\\in.png");
+  put_app_file(u"cserko\\out.png");
   auto& d = dialog();
-  EXPECT_EQ(d.cmd_gartula.Picture, d.cmd_hibahang_add.Picture);
-  EXPECT_EQ(d.cmd_helyeshang_add.Picture, d.cmd_hibahang_add.Picture);
-  EXPECT_EQ(d.cmd_hangtörl_gratulahangból.Picture, d.cmd_hangtörl_hibahangból.Picture);
-  EXPECT_EQ(d.cmd_hangtörl_helyeshangból.Picture, d.cmd_hangtörl_hibahangból.Picture);
+  const PicturePtr in = machine.load_picture(Text(app) + u"cserko\\in.png");
+  const PicturePtr out = machine.load_picture(Text(app) + u"cserko\\out.png");
+  d.cmd_hibahang_add.Picture = in;
+  d.cmd_hangtörl_hibahangból.Picture = out;
+  d.Load();
+  EXPECT_EQ(d.cmd_gartula.Picture, in);
+  EXPECT_EQ(d.cmd_helyeshang_add.Picture, in);
+  EXPECT_EQ(d.cmd_hangtörl_gratulahangból.Picture, out);
+  EXPECT_EQ(d.cmd_hangtörl_helyeshangból.Picture, out);
 }
 
 } // namespace
