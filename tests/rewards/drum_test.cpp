@@ -65,6 +65,8 @@ TEST_F(DrumTest, TakesTheLookOfTheMainWindowInTheMiddleOfTheScreen) {
   EXPECT_EQ(drum.Left, screen.width / 2 - drum.Width / 2);
 }
 
+TEST_F(DrumTest, TakesSevenTenthsOfTheScreen) { expect_share_of_screen(load<frm_dobszerkó>(), 0.7); }
+
 // The sounds.
 
 TEST_F(DrumTest, SoundsAreDealtInTheOrderOfTheListingTheCommaFirst) {
@@ -218,6 +220,18 @@ TEST_F(DrumTest, AfterAMinuteItSaysComeAndPlayForFifteenSecondsAndEnds) {
   });
   machine.show_modal(load<frm_dobszerkó>());
   EXPECT_EQ(machine.now() - start, 75000);
+  EXPECT_FALSE(session().loaded<frm_dobszerkó>());
+}
+
+TEST_F(DrumTest, TheClosingMessagePutAwayEarlyEndsItAtThatMoment) {
+  then_in<frm_dobszerkó>([](frm_dobszerkó&) {});
+  then_in<frm_szövegüzenet>([this](frm_szövegüzenet& panel) {
+    machine.advance(2000);
+    hand::click(panel.cmd_ok);
+  });
+  const std::int64_t start = machine.now();
+  machine.show_modal(load<frm_dobszerkó>());
+  EXPECT_EQ(machine.now() - start, 62000);
   EXPECT_FALSE(session().loaded<frm_dobszerkó>());
 }
 

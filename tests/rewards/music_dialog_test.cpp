@@ -309,6 +309,23 @@ TEST_F(MusicDialogTest, WhileItIsOpenTheTimerStandsAndMusicThenGoesOnWithTheNext
   EXPECT_EQ(dialog.list_playlist.list_index(), 1);
 }
 
+TEST_F(MusicDialogTest, FromTheMenuAPreviewStopsByCancelAndTheFileSaysWhetherMusicGoesOn) {
+  for (const bool allowed : {true, false}) {
+    put_settings(u"zenebeáll.ini", {allowed ? u" 1 " : u" 0 ", u"a.mid", u"b.mid"});
+    auto& main = open<frm_főablak>();
+    then_in<frm_zenebeáll>([&](frm_zenebeáll& shown) {
+      shown.chk_zene_enged.set_value(allowed ? 0 : 1);
+      hand::select(shown.filelist_zene, u"c.mid");
+      EXPECT_EQ(music(), MediaMode::Playing);
+      hand::click(shown.cmd_mégsem);
+    });
+    hand::click(main.mnu_fájl_zenebeállítások);
+    EXPECT_EQ(music(), MediaMode::Closed);
+    tick();
+    EXPECT_EQ(music(), allowed ? MediaMode::Playing : MediaMode::Closed);
+  }
+}
+
 TEST_F(MusicDialogTest, MusicThatIsAllowedInTheDialogStartsAfterIt) {
   auto& main = open<frm_főablak>();
   then_in<frm_zenebeáll>([](frm_zenebeáll& shown) {

@@ -116,6 +116,21 @@ TEST_F(PanelTest, IsCentred) {
   });
 }
 
+TEST_F(PanelTest, TakesNineTenthsOfTheScreen) { expect_share_of_screen(load<frm_gratuláció>(), 0.9); }
+
+TEST_F(PanelTest, SentenceAndCountFillTheirPlaces) {
+  sounds_off();
+  const std::vector<int> sentences{9, 28};
+  for (const int sentence : sentences) {
+    machine.script_random({drawing(sentence, 30), 0.0});
+    congratulate([this](frm_gratuláció& panel) {
+      expect_fitted(panel.label_szöveg);
+      expect_fitted(panel.lbl_vissza);
+      hand::click(panel.cmd_ok);
+    });
+  }
+}
+
 // The picture.
 
 TEST_F(PanelTest, TheOnlyPictureIsShown) {
@@ -340,6 +355,19 @@ TEST_F(PanelTest, WithSoundsOffTheMusicIsNotTouched) {
   music_plays();
   sounds_off();
   congratulate_and_ok();
+  EXPECT_EQ(commands(), "");
+  EXPECT_EQ(music(), MediaMode::Playing);
+}
+
+TEST_F(PanelTest, WithSoundsOffNoOtherWayOutTouchesTheMusicEither) {
+  music_plays();
+  sounds_off();
+  congratulate([](frm_gratuláció& panel) { hand::close(panel); });
+  next_panel_offers();
+  congratulate([](frm_gratuláció&) {}); // closes by itself
+  then_in<frm_gratuláció>([](frm_gratuláció& panel) { hand::click(panel.cmd_rajz); });
+  then_in<DrawingWindow>([](DrawingWindow& drawing) { hand::close(drawing); });
+  machine.show_modal(load<frm_gratuláció>());
   EXPECT_EQ(commands(), "");
   EXPECT_EQ(music(), MediaMode::Playing);
 }

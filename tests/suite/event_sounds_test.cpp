@@ -151,6 +151,13 @@ TEST_F(SoundTest, AWrongAnswerBeepsWhenItsSoundIsOff) {
   EXPECT_EQ(machine.media().beeps, 1);
 }
 
+TEST_F(SoundTest, AnEmptyErrorListOpensTheFolderAndDoesNotBeep) {
+  hiba_hang(session());
+  EXPECT_EQ(commands(), open_and_play("c:\\cserko\\\\hangok\\"));
+  EXPECT_TRUE(machine.media().played.empty());
+  EXPECT_EQ(machine.media().beeps, 0);
+}
+
 // Calls for help.
 
 TEST_F(SoundTest, ACallForHelpPlaysTheAlarm) {

@@ -32,6 +32,22 @@ TEST_F(AnswerTest, TheWordItselfIsRight) {
     EXPECT_FALSE(button->Visible) << utf8(button->Name);
 }
 
+TEST_F(AnswerTest, TheSolvedWordFillsItsPlace) {
+  auto& window = deal({u"kos", u"utolsó"});
+  lay(window, {u"k", u"o", u"s"});
+  hand::click(window.cmd_kész);
+  expect_fitted(window.lbl_megoldás);
+}
+
+TEST_F(AnswerTest, TilesOfSeveralCharactersAreReadAsWholes) {
+  auto& window = deal({u"dzsessz", u"utolsó"});
+  lay(window, {u"ssz", u"e", u"dzs"});
+  EXPECT_EQ(answer(window), "sszedzs" + unknown);
+  lay(window, {u"dzs", u"e", u"ssz"});
+  hand::click(window.cmd_kész);
+  EXPECT_TRUE(solved(window));
+}
+
 TEST_F(AnswerTest, OnlyTheOrderFromLeftToRightCounts) {
   auto& window = deal({u"kos", u"hal", u"utolsó"});
   window.betű[0].move_to(10, 9000);

@@ -45,6 +45,16 @@ TEST_F(BoardTest, PressAndReleasePlayTheMovingSound) {
   EXPECT_EQ(commands(), "close hang\n" + moving);
 }
 
+TEST_F(BoardTest, ReleasingAnotherButtonKeepsTheLetterInTheHand) {
+  auto& window = kos();
+  hand::press(window.betű[0], 10, 10);
+  forget_commands();
+  hand::release(window.betű[0], 10, 10, MouseButton::Right);
+  EXPECT_EQ(commands(), "");
+  hand::move(window.betű[0], 510, 10);
+  EXPECT_EQ(window.betű[0].Left, 1500);
+}
+
 TEST_F(BoardTest, TheMouseStopsAtTheEdgesWithAMarginOfHundredAtTheRight) {
   auto& window = kos();
   Label& letter = window.betű[0];
@@ -249,7 +259,12 @@ TEST_F(BoardTest, ARowThatWouldNotFitStartsFurtherLeft) {
   auto& window = kos();
   for (int i = 0; i < 3; ++i) window.betű[i].Left = 9000 + i;
   hand::click(window.cmd_rendez);
-  EXPECT_DOUBLE_EQ(window.betű[0].Left, window.kép.Width - text_width(window, u"kos") - 100);
+  double left = window.kép.Width - text_width(window, u"kos") - 100;
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_DOUBLE_EQ(window.betű[i].Left, left) << i;
+    EXPECT_EQ(window.betű[i].Top, 2000) << i;
+    left += text_width(window, window.betű[i].Caption);
+  }
 }
 
 TEST_F(BoardTest, ARowThatJustFitsStaysWhereItStarts) {
@@ -271,6 +286,18 @@ TEST_F(BoardTest, SortingKeepsTheOrderAndClearsTheSelection) {
   window.betű.each([&](const Label& letter) { row.emplace_back(letter.Left, utf8(letter.Caption)); });
   std::sort(row.begin(), row.end());
   EXPECT_EQ(row[0].second + row[1].second + row[2].second + row[3].second, "mala");
+}
+
+TEST_F(BoardTest, SortingGoesByWholePlacesAndTheOutcomeOfTheExchangeSort) {
+  auto& window = kos();
+  // Rounded, k and o are equal; the exchange of k and s puts k behind o.
+  window.betű[0].Left = 1999.8;
+  window.betű[1].Left = 2000.2;
+  window.betű[2].Left = 1000;
+  hand::click(window.cmd_rendez);
+  const double s = text_width(window, u"s");
+  const double o = text_width(window, u"o");
+  EXPECT_EQ(positions(window), (std::vector<Point>{{1000 + s + o, 5000}, {1000 + s, 5000}, {1000, 5000}}));
 }
 
 TEST_F(BoardTest, TheRightButtonOnTheFrameSortsToo) {

@@ -1,5 +1,4 @@
 // Scrambled word: its design, how it is loaded and closed, and how a puzzle is dealt and scattered.
-#include "core/frame.h"
 #include "tests/suite/scrambled_fixture.h"
 
 namespace cserko {
@@ -82,15 +81,12 @@ TEST_F(DealTest, ClosingByTheCloseControlUnloadsTheDialogFirst) {
             (std::vector<std::string>{"unload frm_cserkó_beáll", "unload frm_cserkó"}));
 }
 
+TEST_F(DealTest, TakesNearlyTheWholeScreen) { expect_share_of_screen(deal({u"alma", u"körte"}), 0.95); }
+
 TEST_F(DealTest, TheInstructionIsFittedAndKeepsItsText) {
   auto& window = deal({u"alma", u"körte"});
-  const double size = window.lbl_feladat.Font.size;
-  Font smaller = window.lbl_feladat.Font;
-  smaller.size = size - 1;
-  const Size extent = machine.measure(window.lbl_feladat.Font, window.lbl_feladat.Caption);
-  const Size before = machine.measure(smaller, window.lbl_feladat.Caption);
-  EXPECT_TRUE(size == 6 || (before.width <= 0.9 * window.lbl_feladat.Width));
-  EXPECT_TRUE(extent.width > 0.9 * window.lbl_feladat.Width || extent.height > 0.9 * window.lbl_feladat.Height);
+  EXPECT_TRUE(utf8(window.lbl_feladat.Caption).starts_with("A keretben"));
+  expect_fitted(window.lbl_feladat);
 }
 
 TEST_F(DealTest, TheLetterFontIsTheOneThatFitsAnM) {
@@ -104,9 +100,8 @@ TEST_F(DealTest, TheLetterFontIsTheOneThatFitsAnM) {
 
 TEST_F(DealTest, TheButtonsAreFittedThreePointsSmaller) {
   auto& window = deal({u"alma", u"körte"});
-  Button copy(window, u"copy", place_of(window.cmd_kész), u"Kész");
-  szöveg_illesztés(copy);
-  EXPECT_EQ(window.cmd_kész.Font.size, copy.Font.size - 3);
+  for (const Button* button : {&window.cmd_kész, &window.cmd_egybetűtfelfed, &window.cmd_újrakever, &window.cmd_rendez})
+    expect_fitted(*button, 3);
 }
 
 TEST_F(DealTest, HelpOpensThePageOfTheTask) {

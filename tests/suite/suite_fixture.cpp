@@ -135,6 +135,20 @@ std::string SuiteTest::commands() {
   return lines;
 }
 
+void SuiteTest::expect_fitted(const Element& element, double points) {
+  cserko::Font font = element.Font;
+  font.size += points;
+  const Text text = without_mnemonic(element.Caption);
+  const auto too_large = [&] {
+    const Size extent = machine.measure(font, text);
+    return extent.width > 0.9 * element.Width || extent.height > 0.9 * element.Height;
+  };
+  EXPECT_TRUE(too_large()) << to_utf8(element.Name);
+  if (font.size <= 6) return;
+  font.size -= 1;
+  EXPECT_FALSE(too_large()) << to_utf8(element.Name);
+}
+
 const RecordedCanvas& drawn(PictureBox& box) { return dynamic_cast<const RecordedCanvas&>(box.canvas()); }
 
 } // namespace cserko

@@ -2,6 +2,7 @@
 // pictures in memory, a person at the screen who is the test itself.
 #pragma once
 
+#include "core/frame.h"
 #include "core/session.h"
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
@@ -121,6 +122,19 @@ class SuiteTest : public ::testing::Test {
   static double drawing(double number, double n) { return (number + 0.5) / n; }
   /// A random number by which the draw of a record hits the index.
   double record(int index) { return drawing(index, session().képek.képszám); }
+
+  // What it looks like.
+
+  /// Expects a loaded window to be as large as its design that was scaled to that share of the screen.
+  template<class W> void expect_share_of_screen(const W& window, double share) {
+    W model(session());
+    model.set_inner_size(model.design_size());
+    ablak_méretezés(model, share);
+    EXPECT_DOUBLE_EQ(window.Width, model.Width) << to_utf8(window.Name);
+    EXPECT_DOUBLE_EQ(window.Height, model.Height) << to_utf8(window.Name);
+  }
+  /// Expects a caption at the size at which it first takes more than nine tenths of its place, `points` less.
+  void expect_fitted(const Element& element, double points = 0);
 
   DiaryPlatform machine;
 
