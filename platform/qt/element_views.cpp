@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
+#include <algorithm>
 
 namespace cserko {
 
@@ -81,17 +82,36 @@ class LabelWidget : public ElementWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     if (label_.Opaque) painter.fillRect(rect(), to_qt(label_.BackColor));
-    painter.setPen(text_color(*this, label_));
-    const int across = label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft;
-    paint_caption(painter, rect(), label_, context(), across | Qt::AlignVCenter, label_.WordWrap);
+    // The ring goes under the text: on a narrow letter it would hide it.
+    if (shows_focus(*this, context())) paint_focus_ring(painter, rect(), context().fonts.scale());
+    const QColor color = text_color(*this, label_);
+    if (label_.Opaque && theme::contrast(color, to_qt(label_.BackColor)) < theme::readable_contrast)
+      paint_edge(painter);
+    painter.setPen(color);
+    paint_text(painter, {});
     if (label_.Border) {
       painter.setPen(QPen(theme::text, 1));
       painter.drawRect(rect().adjusted(0, 0, -1, -1));
     }
-    if (shows_focus(*this, context())) paint_focus_ring(painter, rect(), context().fonts.scale());
   }
 
  private:
+  void paint_text(QPainter& painter, QPointF shift) {
+    const int across = label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft;
+    paint_caption(painter, QRectF(rect()).translated(shift), label_, context(), across | Qt::AlignVCenter,
+                  label_.WordWrap);
+  }
+
+  // Colours that chance has chosen may be as bright as each other: an edge around the letters makes them readable.
+  void paint_edge(QPainter& painter) {
+    const QColor back = to_qt(label_.BackColor);
+    const bool dark = theme::contrast(back, Qt::black) > theme::contrast(back, Qt::white);
+    painter.setPen(dark ? Qt::black : Qt::white);
+    const double width = std::max(1.0, context().fonts.font(label_.Font).pixelSize() / 40.0);
+    for (const QPointF side : {QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1), QPointF(1, 1)})
+      paint_text(painter, side * width);
+  }
+
   Label& label_;
 };
 

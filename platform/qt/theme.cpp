@@ -3,8 +3,25 @@
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
+#include <algorithm>
+#include <cmath>
 
 namespace cserko::theme {
+
+namespace {
+
+// The light that a colour gives off, 0 to 1, as the eye weighs it.
+double luminance(const QColor& color) {
+  const auto light = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
+  return 0.2126 * light(color.redF()) + 0.7152 * light(color.greenF()) + 0.0722 * light(color.blueF());
+}
+
+} // namespace
+
+double contrast(const QColor& a, const QColor& b) {
+  const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
+  return (lighter + 0.05) / (darker + 0.05);
+}
 
 void apply() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));

@@ -21,4 +21,9 @@ inline constexpr QColor accent(24, 98, 94);
 /// Gives the application its style and colours.
 void apply();
 
+/// How well two colours can be told apart by their brightness alone: 1, not at all, to 21, black from white.
+double contrast(const QColor& a, const QColor& b);
+/// The contrast at which large letters can be read.
+inline constexpr double readable_contrast = 3;
+
 } // namespace cserko::theme
