@@ -17,13 +17,33 @@ constexpr int patience = 20000; // ms until a stop counts as never reached
 Guide::Guide(WatchedPlatform& platform, QString folder) : platform_(platform), folder_(std::move(folder)) {}
 
 void Guide::act(TextView window, std::function<void(Window&)> deed, std::function<bool(Window&)> ready) {
-  stops_.push_back({Text(window), std::move(deed), std::move(ready)});
+  stops_.push_back({Text(window), std::move(deed), std::move(ready), {}});
+}
+
+void Guide::repeat(TextView window, std::function<void(Window&)> deed, std::function<bool()> done) {
+  stops_.push_back({Text(window), std::move(deed), {}, std::move(done)});
 }
 
 void Guide::picture(TextView window, const std::string& name, bool moving) {
   const auto ready = moving ? std::function<bool(Window&)>() : [this](Window& seen) { return stands_still(seen); };
   act(
       window, [this, name](Window& seen) { look_at(seen, name); }, ready);
+}
+
+void Guide::picture_behind(TextView front, std::function<Window&()> behind, const std::string& name) {
+  act(front, [this, behind = std::move(behind), name](Window&) {
+    Window& window = behind();
+    // The screen shows the window in front, so the other one is asked for its picture.
+    WindowView* view = platform_.view_of(window);
+    if (view == nullptr) return fault(name + ": the window is not on the screen");
+    const QImage image = view->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    judge(window, name, image, platform_.client_corner(window) - view->mapToGlobal(QPoint(0, 0)));
+  });
+}
+
+bool Guide::at_front(TextView window) const {
+  const Window* front = platform_.active_window();
+  return front != nullptr && front->Name == window;
 }
 
 bool Guide::stands_still(Window& window) {
@@ -36,9 +56,11 @@ bool Guide::stands_still(Window& window) {
 void Guide::look_at(Window& window, const std::string& name) {
   const QWidget* widget = platform_.view_of(window);
   if (widget == nullptr) return fault(name + ": the window is not on the screen");
-  const Photograph photograph(take_picture(*widget),
-                              platform_.client_corner(window) - widget->frameGeometry().topLeft(),
-                              platform_.fonts().scale());
+  judge(window, name, take_picture(*widget), platform_.client_corner(window) - widget->frameGeometry().topLeft());
+}
+
+void Guide::judge(Window& window, const std::string& name, const QImage& image, QPoint client_corner) {
+  const Photograph photograph(image, client_corner, platform_.fonts().scale());
   const QString number = QStringLiteral("%1").arg(++pictures_, 2, 10, QLatin1Char('0'));
   photograph.image().save(folder_ + QLatin1Char('/') + number + QLatin1Char('-') + QString::fromStdString(name) +
                           QStringLiteral(".png"));
@@ -61,18 +83,27 @@ void Guide::turn() {
   if (platform_.ended()) return;
   if (next_ == stops_.size()) return platform_.end_process();
   const Stop stop = stops_[next_];
+  if (stop.done && stop.done()) {
+    leave_stop();
+    return schedule();
+  }
   Window* front = platform_.active_window();
   const bool there = front != nullptr && front->Name == stop.window && platform_.settled(*front);
   if (!there || (stop.ready && !stop.ready(*front))) {
     if (waiting_.elapsed() > patience) return give_up(stop);
     return schedule();
   }
-  ++next_;
-  waiting_.restart();
-  last_seen_ = QImage();
+  if (!stop.done) leave_stop();
+  if (stop.done && waiting_.elapsed() > patience) return give_up(stop);
   // What the stop does may show a window and return only when that one is gone: the next stop is waited for before.
   schedule();
   platform_.act([&] { stop.deed(*front); });
+}
+
+void Guide::leave_stop() {
+  ++next_;
+  waiting_.restart();
+  last_seen_ = QImage();
 }
 
 void Guide::give_up(const Stop& stop) {

@@ -25,11 +25,18 @@ class Guide : public QObject {
 
   /// A stop that acts, once the window of that name is at the front and the condition holds.
   void act(TextView window, std::function<void(Window&)> deed, std::function<bool(Window&)> ready = {});
+  /// A stop that acts again and again, each time the window of that name is at the front, until the condition holds.
+  void repeat(TextView window, std::function<void(Window&)> deed, std::function<bool()> done);
   /// A stop that looks at the window and takes its picture. `moving`: it never stands still.
   void picture(TextView window, const std::string& name, bool moving = false);
+  /// A stop that looks at a window while another one stands in front of it.
+  void picture_behind(TextView front, std::function<Window&()> behind, const std::string& name);
 
   /// Looks at a window that is shown outside the stops, as the progress window, which lets no event happen.
   void look_at(Window& window, const std::string& name);
+
+  /// Whether the window of that name is at the front.
+  bool at_front(TextView window) const;
 
   /// Starts to lead; ends the program behind the last stop, or when a stop is not reached.
   void start();
@@ -41,11 +48,14 @@ class Guide : public QObject {
     Text window;
     std::function<void(Window&)> deed;
     std::function<bool(Window&)> ready;
+    std::function<bool()> done; ///< Of a stop that acts again and again.
   };
 
   void schedule();
   void turn();
+  void leave_stop();
   bool stands_still(Window& window);
+  void judge(Window& window, const std::string& name, const QImage& image, QPoint client_corner);
   void give_up(const Stop& stop);
   void fault(const std::string& what);
 
