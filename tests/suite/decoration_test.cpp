@@ -1,6 +1,7 @@
 // What entertains in the main window while nobody plays: the slide show with its swapping letters, and the line
 // drawing with its nine figures.
 #include "core/frm_főablak.h"
+#include "feedback/frm_hangbeáll.h"
 #include "tests/suite/suite_fixture.h"
 
 namespace cserko {
@@ -108,6 +109,18 @@ TEST_F(DecorationTest, APictureStaysEightAndAHalfSecondsForEachCharacter) {
   EXPECT_EQ(machine.picture_loads, loads + 1);
   EXPECT_EQ(caption(main), "körte");
   EXPECT_LE(main.cserélő, -98);
+}
+
+TEST_F(DecorationTest, APictureStaysItsWholeTimeAgainWhenTheWindowComesBack) {
+  auto& main = with_words({u"alma", u"körte", u"szilva"});
+  const int loads = machine.picture_loads;
+  machine.advance(30000);
+  then_in<frm_hangbeáll>([](frm_hangbeáll& sounds) { hand::click(sounds.cmd_mégsem); });
+  hand::click(main.mnu_file_eseményhangok_beállításai);
+  machine.advance(34500);
+  EXPECT_EQ(machine.picture_loads, loads);
+  machine.advance(2 * tick + 60);
+  EXPECT_EQ(machine.picture_loads, loads + 1);
 }
 
 TEST_F(DecorationTest, AClickOnThePanelBringsTheNextPicture) {

@@ -55,6 +55,14 @@ TEST_F(FrameTest, AWindowWiderThanItsShareIsLimitedByTheWidth) {
   EXPECT_LE(window.Width, 7500 * 0.5 + 120 + 90);
 }
 
+TEST_F(FrameTest, TheWidthIsComparedWithItsFrame) {
+  // By the height alone the window would take up 11894 twips inside and 12414 with its frame, grown like the rest.
+  machine.set_screen(1620, 1000);
+  TwoControls window(session());
+  ablak_méretezés(window, 0.5);
+  EXPECT_DOUBLE_EQ(window.label.Width, 1000 * (24300 - 90) * 0.5 / (2000 + 60));
+}
+
 TEST_F(FrameTest, AMenuBarCountsAsPartOfTheFrame) {
   machine.set_screen(4000, 1000);
   TwoControls window(session());
