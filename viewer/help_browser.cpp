@@ -80,12 +80,22 @@ QVariant HelpBrowser::picture(const QUrl& name) const {
   // The document decodes pictures that stand in the reference itself.
   if (name.scheme() == "data") return {};
   const ArchivePart* part = find(name);
-  QImage image = part == nullptr ? QImage() : QImage::fromData(part->content);
-  if (!image.isNull()) return image;
+  const QImage image = part == nullptr ? QImage() : QImage::fromData(part->content);
+  if (!image.isNull()) return sharp(image);
   // Without a picture the document would go and look for the file itself.
-  image = QImage(24, 24, QImage::Format_RGB32);
-  image.fill(QColor(232, 213, 174));
-  return image;
+  QImage missing(24, 24, QImage::Format_RGB32);
+  missing.fill(QColor(232, 213, 174));
+  return missing;
+}
+
+// The document stretches a picture pixel by pixel where the screen is scaled.
+QImage HelpBrowser::sharp(const QImage& image) const {
+  const double scale = devicePixelRatioF();
+  if (scale == 1) return image;
+  QImage smooth =
+      image.scaled((QSizeF(image.size()) * scale).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  smooth.setDevicePixelRatio(scale);
+  return smooth;
 }
 
 void HelpBrowser::zoom(int steps) {

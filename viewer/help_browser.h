@@ -31,6 +31,7 @@ class HelpBrowser : public QTextBrowser {
   QString load_page(const QString& path);
   const ArchivePart* find(const QUrl& name) const;
   QVariant picture(const QUrl& name) const;
+  QImage sharp(const QImage& image) const;
   void center_column();
 
   HelpArchive archive_;

@@ -23,7 +23,6 @@
 #include <QThread>
 #include <QWindow>
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
 namespace cserko {
@@ -32,21 +31,11 @@ namespace {
 
 constexpr int frame_ms = 16;
 
-// How much larger than a small screen the screen is, in quarter steps: unscaled dialogs are not tiny on a large one.
-double zoom_of_screen() {
-  bool given = false;
-  const double wanted = qEnvironmentVariable("CSERKO_ZOOM").toDouble(&given);
-  if (given && wanted > 0) return wanted;
-  const QSize size = QGuiApplication::primaryScreen()->availableGeometry().size();
-  const double fit = std::min(size.width() / 1280.0, size.height() / 800.0);
-  return std::max(1.0, std::floor(fit * 4) / 4);
-}
-
 } // namespace
 
 QtPlatform::QtPlatform()
     : files_(QtFiles::find_pack(), QtFiles::find_user_folder()),
-      fonts_(zoom_of_screen() / twips_per_pixel),
+      fonts_(theme::screen_zoom() / twips_per_pixel),
       context_{fonts_, [this](const std::function<void()>& deed) { act(deed); }} {
   theme::apply();
   clock_.start();

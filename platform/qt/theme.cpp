@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QScreen>
 #include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
@@ -17,6 +18,15 @@ double luminance(const QColor& color) {
 }
 
 } // namespace
+
+double screen_zoom() {
+  bool given = false;
+  const double wanted = qEnvironmentVariable("CSERKO_ZOOM").toDouble(&given);
+  if (given && wanted > 0) return wanted;
+  const QSize size = QGuiApplication::primaryScreen()->availableGeometry().size();
+  const double fit = std::min(size.width() / 1280.0, size.height() / 800.0);
+  return std::max(1.0, std::floor(fit * 4) / 4);
+}
 
 double contrast(const QColor& a, const QColor& b) {
   const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});

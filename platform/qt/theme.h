@@ -21,6 +21,10 @@ inline constexpr QColor accent(24, 98, 94);
 /// Gives the application its style and colours.
 void apply();
 
+/// How much larger than a small screen the screen is, in quarter steps: unscaled dialogs are not tiny on a large one.
+/// `CSERKO_ZOOM` overrides it.
+double screen_zoom();
+
 /// How well two colours can be told apart by their brightness alone: 1, not at all, to 21, black from white.
 double contrast(const QColor& a, const QColor& b);
 /// The contrast at which large letters can be read.
