@@ -1,5 +1,6 @@
 #!/bin/sh
-# Plays the tour on screens of three sizes, each on an X server of its own, with the same chance each time.
+# Plays the tour and leafs through the help on screens of three sizes, each on an X server of its own, with the same
+# chance each time.
 #
 # Usage: run-tour.sh BUILD OUT [WIDTHxHEIGHT...]
 set -eu
@@ -10,12 +11,15 @@ shift 2
 [ $# -gt 0 ] || set -- 1280x1024 1024x600 3840x2160
 
 export CSERKO_SEED=1
+pages=${CSERKO_PACK_DIR:-$build/../pack}/cserko/help
+on_display=$(dirname "$0")/../x11/with-display.sh
 failed=0
 for size; do
   rm -rf "${out:?}/$size"
   mkdir -p "$out/$size"
   echo "Tour on $size:"
-  "$(dirname "$0")/../x11/with-display.sh" "$size" "$build/cserko-tour" "$out/$size" || failed=1
+  "$on_display" "$size" "$build/cserko-tour" "$out/$size" || failed=1
+  "$on_display" "$size" "$build/cserko-help-tour" "$pages" "$out/$size" || failed=1
 done
 echo "The pictures are in $out."
 exit $failed
