@@ -98,6 +98,14 @@ TEST_F(DecorationTest, TheNameIsFittedToNineTenthsOfItsLabel) {
   EXPECT_FALSE(overfills(size - 1));
 }
 
+TEST_F(DecorationTest, TheFirstPictureIsDrawnAfterASeedingFromTheClock) {
+  put_words({u"alma", u"körte"});
+  start();
+  const int seedings = machine.seedings;
+  load<frm_főablak>();
+  EXPECT_EQ(machine.seedings, seedings + 1);
+}
+
 TEST_F(DecorationTest, APictureStaysEightAndAHalfSecondsForEachCharacter) {
   // "alma": 4 × 8.64 s.
   auto& main = with_words({u"alma", u"körte", u"szilva"});
@@ -227,6 +235,13 @@ TEST_F(SwappingTest, OneLetterBecomesTheSameTwice) {
   EXPECT_EQ(caption(main), "aa");
 }
 
+TEST_F(SwappingTest, EverySwapSeedsTheGenerator) {
+  auto& main = showing(u"abcdef");
+  const int seedings = machine.seedings;
+  swap_at(main, 2, 6);
+  EXPECT_EQ(machine.seedings, seedings + 1);
+}
+
 TEST_F(SwappingTest, NothingSwapsUnlessItIsTurnedOn) {
   auto& main = showing(u"abcdef");
   settings_boxes().Chkcserkózás.set_value(0);
@@ -269,6 +284,13 @@ class LineDrawingTest : public DecorationTest {
     }
   }
   std::size_t lines(frm_főablak& main) { return drawn(main.dísz).drawings().size(); }
+  /// Runs a pass and expects that nothing is drawn by lot, though the lot would fall on another figure.
+  void expect_no_lot_in_pass(frm_főablak& main) {
+    machine.script_random({drawing(5, 6), drawing(4, 9)});
+    run_pass(main);
+    EXPECT_EQ(machine.scripted_random_left(), 2U);
+    while (machine.scripted_random_left() > 0) machine.random();
+  }
 };
 
 TEST_F(LineDrawingTest, HasNoPictureAndNoName) {
@@ -286,6 +308,27 @@ TEST_F(LineDrawingTest, AStepIsASixtiethOfTheWidth) {
   EXPECT_NEAR(first, width / 60.0, 0.5);
   tick_once(main);
   EXPECT_NEAR(main.drawing.lépés, first + width / 60.0, 0.5);
+}
+
+TEST_F(LineDrawingTest, APassEndsOneStepBehindHalfTheWidth) {
+  auto& main = with_figure(7);
+  const double end = main.drawing.szélesség / 2.0 + main.drawing.szélesség / 60.0;
+  int last = 0;
+  while (main.drawing.szürke == 0) {
+    last = main.drawing.lépés;
+    tick_once(main);
+  }
+  EXPECT_EQ(main.drawing.lépés, 0);
+  EXPECT_LT(last, end);
+  EXPECT_GE(std::nearbyint(last + main.drawing.szélesség / 60.0), end) << "no step sooner";
+}
+
+TEST_F(LineDrawingTest, EveryTickSeedsTheGenerator) {
+  auto& main = with_figure(0);
+  const int seedings = machine.seedings;
+  tick_once(main);
+  tick_once(main);
+  EXPECT_EQ(machine.seedings, seedings + 2);
 }
 
 TEST_F(LineDrawingTest, EachTickAddsAFewLinesAndEachFigureDraws) {
@@ -358,6 +401,19 @@ TEST_F(LineDrawingTest, OtherwiseTheFigureStaysAfterTheWhitePass) {
   EXPECT_EQ(main.drawing.alak, 0);
 }
 
+TEST_F(LineDrawingTest, OnlyTheWhitePassChangesTheFigure) {
+  auto& main = with_figure(0);
+  run_pass(main);
+  run_pass(main);
+  machine.script_random({drawing(0, 6)});
+  run_pass(main);
+  run_pass(main);
+  ASSERT_EQ(main.drawing.szürke, 0);
+  expect_no_lot_in_pass(main);
+  EXPECT_EQ(main.drawing.alak, 0);
+  EXPECT_EQ(main.drawing.szürke, 128);
+}
+
 TEST_F(LineDrawingTest, NothingIsClearedWhenTheFigureChangesByItself) {
   auto& main = with_figure(0);
   run_pass(main);
@@ -371,7 +427,7 @@ TEST_F(LineDrawingTest, NothingIsClearedWhenTheFigureChangesByItself) {
 TEST_F(LineDrawingTest, TheCurvesAreLeftByAClickAlone) {
   for (const int figure : {7, 8}) {
     auto& main = with_figure(figure);
-    for (int i = 0; i < 12; ++i) run_pass(main);
+    for (int i = 0; i < 12; ++i) expect_no_lot_in_pass(main);
     EXPECT_EQ(main.drawing.alak, figure);
     machine.script_random({drawing(2, 9)});
     hand::click(main.dísz);
@@ -410,6 +466,19 @@ TEST_F(LineDrawingTest, TheRosetteHasItsConstants) {
   auto& main = with_figure(7);
   EXPECT_EQ(main.drawing.görbe_lépés, 3000);
   EXPECT_EQ(main.drawing.görbe_arány, 100);
+  const double steps = main.drawing.görbe_szög / (3.14159265358979 / 3000 + 0.001);
+  EXPECT_GE(steps, 1);
+  EXPECT_NEAR(steps, std::nearbyint(steps), 1e-9) << "points lie a step of the angle apart";
+}
+
+TEST_F(LineDrawingTest, WhereAPictureWasShownTheDrawingBeginsOnAnEmptyPanel) {
+  auto& main = with_words({u"alma", u"körte"});
+  main.Timer1.Enabled = false;
+  settings_boxes().rajz.set_value(1);
+  tick_once(main);
+  EXPECT_EQ(main.dísz.Picture, nullptr);
+  EXPECT_EQ(caption(main), "");
+  EXPECT_GT(lines(main), 0U);
 }
 
 TEST_F(LineDrawingTest, TheOptionChoosesTheBranchAtEveryTick) {
