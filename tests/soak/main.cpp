@@ -1,5 +1,6 @@
 // Plays the whole suite with random events on the headless machine, as many runs of the program as it takes. Nothing
-// may be reported, nothing may escape, and there must always be a way back to the main window.
+// may be reported, nothing may escape, and there must always be a way back to the main window. After a long run every
+// window that is offered must have been visited, music and drums heard and help pages opened.
 //
 // Usage: cserko_soak [EVENTS [SEED]]
 #include "core/session.h"
@@ -11,6 +12,7 @@
 #include "tests/players/képmemória_player.h"
 #include "tests/players/mondatkép_player.h"
 #include "tests/players/szótagoló_player.h"
+#include "tests/soak/census.h"
 #include "tests/soak/restless_person.h"
 #include "tests/suite/memory_pack.h"
 
@@ -20,6 +22,9 @@
 namespace {
 
 using namespace cserko;
+
+// So many random events reach everything there is; after fewer nothing is said about what they have not reached.
+constexpr int enough_for_all = 100000;
 
 // What was on the disk when a run ended is there in the next one.
 void copy_files(const MemoryFiles& from, MemoryFiles& to) {
@@ -42,7 +47,7 @@ Players all_players(const Session& session) {
 }
 
 // One run of the program, from its start until the person leaves or has had enough. False if anything was reported.
-bool run(HeadlessPlatform& machine, RestlessPerson& person) {
+bool run(CountingMachine& machine, RestlessPerson& person, Census& census) {
   person.sit_down(machine);
   Session session(machine);
   install_feedback(session);
@@ -60,6 +65,7 @@ bool run(HeadlessPlatform& machine, RestlessPerson& person) {
     return false;
   };
   session.Main();
+  census.add(machine, session);
   for (const Text& error : machine.errors) std::cerr << "reported: " << to_utf8(error) << '\n';
   for (const Text& text : machine.messages) std::cerr << "message box: " << to_utf8(text) << '\n';
   return machine.errors.empty();
@@ -72,15 +78,16 @@ int main(int argc, char** argv) {
   const auto seed = argc > 2 ? std::strtoull(argv[2], nullptr, 10) : std::random_device{}();
   std::cout << "cserko_soak " << events << ' ' << seed << std::endl;
   RestlessPerson person(seed, events);
+  Census census;
   MemoryFiles disk;
   put_sample_pack(disk);
   int runs = 0;
   while (person.events_left() > 0) {
-    HeadlessPlatform machine;
+    CountingMachine machine;
     machine.set_seed(seed + static_cast<std::uint64_t>(++runs));
     copy_files(disk, machine.files());
     try {
-      if (!run(machine, person)) return EXIT_FAILURE;
+      if (!run(machine, person, census)) return EXIT_FAILURE;
     } catch (const std::exception& error) {
       std::cerr << "after " << events - person.events_left() << " events, run " << runs << ": " << error.what() << '\n';
       return EXIT_FAILURE;
@@ -88,8 +95,11 @@ int main(int argc, char** argv) {
     disk = MemoryFiles();
     copy_files(machine.files(), disk);
   }
-  for (const auto& [window, count] : person.events_by_window())
-    std::cout << "  " << to_utf8(window) << ": " << count << '\n';
+  const std::vector<Text> never = census.report(std::cout, person.events_by_window());
+  if (events >= enough_for_all && !never.empty()) {
+    for (const Text& name : never) std::cerr << "never reached: " << to_utf8(name) << '\n';
+    return EXIT_FAILURE;
+  }
   std::cout << events << " events in " << runs << " runs of the program: nothing was reported\n";
   return EXIT_SUCCESS;
 }
