@@ -9,6 +9,7 @@
 #include "feedback/sounds.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace cserko {
 
@@ -209,9 +210,11 @@ void frm_képmemória::betűméretállítás() {
   });
   cserko::Font font = képszöveg[0].Font;
   font.size = 8;
-  // One step back: unlike elsewhere the first size that is too wide is not kept.
+  // One step back: unlike elsewhere the first size that is too wide is not kept. Height is no limit: the line of a very
+  // short word may be higher than its card, while its letters still lie inside.
+  constexpr double any_height = std::numeric_limits<double>::infinity();
   if (!widest.empty())
-    font.size = first_overfilling_size(platform(), font, widest, {0.9 * kép[0].Width, kép[0].Height}) - 1;
+    font.size = first_overfilling_size(platform(), font, widest, {0.9 * kép[0].Width, any_height}) - 1;
   nemszöveg.Width = kép[0].Width;
   nemszöveg.Height = std::min(kép[0].Height, platform().measure(font, u"Á").height);
   for (int i = 0; i < places; ++i) {

@@ -316,6 +316,23 @@ TEST_F(MemoryDealTest, AllWordsTakeTheLargestSizeAtWhichTheWidestFitsACard) {
   }
 }
 
+TEST_F(MemoryDealTest, VeryShortWordsAreLimitedByTheirWidthAlone) {
+  put({{.név = u"ló"}, {.név = u"tó"}, {.név = u"út"}, {.név = u"őz"}, {.név = u"só"}, {.név = u"ér"}});
+  auto& window = open_five(five_pairs());
+  const Size card{window.kép[0].Width, window.kép[0].Height};
+  Font font = window.képszöveg[0].Font;
+  const auto widest = [&] {
+    double width = 0;
+    for (const TextView word : {u"ló", u"tó", u"út", u"őz", u"só"})
+      width = std::max(width, machine.measure(font, word).width);
+    return width;
+  };
+  EXPECT_LE(widest(), 0.9 * card.width);
+  EXPECT_GT(machine.measure(font, u"ló").height, card.height) << "the line is higher than the card";
+  ++font.size;
+  EXPECT_GT(widest(), 0.9 * card.width);
+}
+
 TEST_F(MemoryDealTest, WhereTooFewWordsFitTheWindowStaysAndTellsWhy) {
   // The dialog counts words; that their pictures are missing shows at the deal only.
   put_words(4);
