@@ -108,6 +108,18 @@ TEST_F(MemoryTurnTest, AmongPicturesBothSidesShowTheSamePicture) {
   turn(11);
   EXPECT_EQ(picture(card(11)), "c:\\cserko\\kepek\\2.wmf");
   EXPECT_FALSE(word(11).Visible);
+  int both_open = 0;
+  machine.each_frame = [&] {
+    if (picture(card(1)) == back) return;
+    ++both_open;
+    EXPECT_EQ(picture(card(1)), "c:\\cserko\\kepek\\2.wmf");
+    EXPECT_EQ(picture(card(11)), picture(card(1)));
+    EXPECT_FALSE(word(1).Visible);
+  };
+  turn(1);
+  EXPECT_GT(both_open, 60) << "the second that they lie open";
+  EXPECT_FALSE(card(1).Visible);
+  EXPECT_FALSE(card(11).Visible);
 }
 
 TEST_F(MemoryTurnTest, ATurnSqueezesTheCardTowardsItsMiddleAndBackFrameByFrame) {
@@ -178,6 +190,19 @@ TEST_F(MemoryTurnTest, TheCardThatLiesTurnedUpDoesNothing) {
   EXPECT_TRUE(window->Enabled);
 }
 
+TEST_F(MemoryTurnTest, NeitherDoesTheWordThatLiesTurnedUp) {
+  turn(11);
+  ASSERT_TRUE(word(11).shown());
+  commands();
+  const int before = machine.frames;
+  hand::press(word(11), 10, 10);
+  hand::press(card(11), 10, 10);
+  EXPECT_EQ(machine.frames, before);
+  EXPECT_EQ(commands(), "");
+  EXPECT_EQ(utf8(word(11).Caption), "körte");
+  EXPECT_TRUE(window->felfordítva(11));
+}
+
 TEST_F(MemoryTurnTest, TheMiddleButtonTurnsToo) {
   turn(1, MouseButton::Middle);
   EXPECT_TRUE(window->felfordítva(1));
@@ -192,6 +217,7 @@ TEST_F(MemoryTurnTest, TheWindowIsDeafWhileCardsTurnAndWait) {
     ++tried;
     EXPECT_FALSE(window->Enabled);
     hand::press(card(2), 10, 10);
+    hand::press(card(2), 10, 10, MouseButton::Right);
     hand::click(card(3));
     hand::key(*window, key::space);
     hand::click(window->mnu_fájl_új_játék);

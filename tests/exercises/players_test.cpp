@@ -8,6 +8,8 @@
 #include "tests/players/mondatkép_player.h"
 #include "tests/players/szótagoló_player.h"
 
+#include <algorithm>
+
 namespace cserko {
 namespace {
 
@@ -34,6 +36,7 @@ class ExercisePlayersTest : public ExerciseTest {
                  u" 6 \r\n 12 \r\n 1 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\n 1 \r\n 0 \r\n"
                  u" 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
     start();
+    put_answer_sounds();
   }
   void put_full(const Text& name, const Text& syllables) {
     put({.név = name,
@@ -59,6 +62,25 @@ class ExercisePlayersTest : public ExerciseTest {
     EXPECT_EQ(player.sets(), sets);
     EXPECT_TRUE(machine.ended());
   }
+
+  /// How often a sound was begun.
+  int begun(TextView file) {
+    const Text end = u"\\" + Text(file) + u"\" type waveaudio alias hang";
+    const auto& all = machine.media().commands;
+    return static_cast<int>(
+        std::count_if(all.begin(), all.end(), [&](const Text& command) { return command.ends_with(end); }));
+  }
+  /// The sounds tell what the exercise itself thought of the answers: six right ones in each set, and wrong each time
+  /// that the player meant to be.
+  void expect_judged(const ExercisePlayer& player) {
+    EXPECT_EQ(begun(u"good.wav"), 6 * player.sets());
+    EXPECT_EQ(begun(u"bad.wav"), player.wrong_answers());
+  }
+  /// Picture memory moves two cards up for each pair that it swallows, and two up and back for each wrong one.
+  void expect_judged(const KépmemóriaPlayer& player, int pairs = 6) {
+    EXPECT_EQ(begun(u"swallow1.wav"), pairs * player.sets());
+    EXPECT_EQ(begun(u"Moving.wav"), 2 * pairs * player.sets() + 4 * player.wrong_answers());
+  }
 };
 
 template<class P> class EachPlayerTest : public ExercisePlayersTest {};
@@ -69,18 +91,21 @@ TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {
   TypeParam player(this->session(), Mode::Mouse, 5);
   this->play(player, 1000);
   EXPECT_GE(player.wrong_answers(), 1000);
+  this->expect_judged(player);
 }
 
 TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByKeyboardAloneWithMistakes) {
   TypeParam player(this->session(), Mode::Keyboard, 5);
   this->play(player, 1000);
   EXPECT_GE(player.wrong_answers(), 1000);
+  this->expect_judged(player);
 }
 
 TYPED_TEST(EachPlayerTest, SolvesSetsWithoutAnyMistake) {
   TypeParam player(this->session(), Mode::Mouse);
   this->play(player, 20);
   EXPECT_EQ(player.wrong_answers(), 0);
+  this->expect_judged(player);
 }
 
 class FullBoardTest : public ExercisePlayersTest {
@@ -92,12 +117,14 @@ TEST_F(FullBoardTest, TheMemoryPlayerClearsFullBoardsByMouse) {
   KépmemóriaPlayer player(session(), Mode::Mouse, 5);
   play(player, 20);
   EXPECT_GE(player.wrong_answers(), 60);
+  expect_judged(player, 18);
 }
 
 TEST_F(FullBoardTest, TheMemoryPlayerClearsFullBoardsByKeyboardAndAsksForHelpByItsKey) {
   KépmemóriaPlayer player(session(), Mode::Keyboard, 5);
   play(player, 20);
   EXPECT_GE(player.wrong_answers(), 60);
+  expect_judged(player, 18);
   EXPECT_GE(player.helps(), 60);
 }
 

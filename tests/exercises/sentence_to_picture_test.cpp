@@ -203,8 +203,15 @@ TEST_F(SentenceTest, AClickOnTheFreeBackgroundDealsAnotherSentenceInSilenceAndTh
   const double x = window.inner_width() - 30;
   const double y = window.inner_height() - 30;
   ASSERT_EQ(hand::element_at(window, x, y), nullptr);
+  const int next = before == 7 ? 6 : 7;
+  script_deal({{next, 5}, {0, 0}, {2, 1}, {3, 2}, {4, 3}, {5, 4}});
   hand::click_at(window, x, y);
-  EXPECT_NE(window.aktuális_kép(), before);
+  EXPECT_EQ(window.aktuális_kép(), next);
+  EXPECT_EQ(utf8(window.lbl_meghatározás.Tag), "meghatározás " + std::to_string(next));
+  EXPECT_EQ(tags(window), (std::vector<std::string>{"0", "2", "3", "4", "5", std::to_string(next)}));
+  EXPECT_EQ(pictures(window.pic_feladványkép),
+            (std::vector<std::string>{picture_path(0), picture_path(2), picture_path(3), picture_path(4),
+                                      picture_path(5), picture_path(next)}));
   EXPECT_EQ(commands(), "");
   EXPECT_EQ(captions(window.lbl_eredmény), strip);
   EXPECT_EQ(strip[0], "meghatározás 1");

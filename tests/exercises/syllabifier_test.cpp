@@ -3,6 +3,9 @@
 #include "core/numbers.h"
 #include "tests/exercises/syllabifier_fixture.h"
 
+#include <bit>
+#include <set>
+
 namespace cserko {
 namespace {
 
@@ -348,6 +351,28 @@ TEST_F(SyllabifierTest, OneBehindAnotherThatOpensTheWordStaysWholeToo) {
   EXPECT_EQ(row(deal(u"sszannya", u"sszannya")), "ssz|a|nny|a");
 }
 
+// A break is written only where the row has two pieces: the other long consonants cannot be written twice.
+TEST_F(SyllabifierTest, AWordWhoseBreakFallsIntoOneThatStaysWholeCannotBeSolved) {
+  put_settings(u"szótagoló.ini", {u" 3 ", u" 0 "});
+  const std::vector<std::pair<Text, Text>> words{
+      {u"asszonnyal", u"asz-szony-nyal"}, {u"sszabó", u"sz-sza-bó"}, {u"sszannya", u"sszany-nya"}};
+  for (const auto& [name, syllables] : words) {
+    auto& window = deal(name, syllables);
+    const int breaks = window.betű.count() - 1;
+    std::set<std::string> rows;
+    // Every row that can be laid, in an order in which each differs from the last by one break.
+    for (unsigned step = 1; step <= 1U << breaks; ++step) {
+      rows.insert(row(window));
+      hand::click(window.cmd_kész);
+      const int letter = 1 + std::countr_zero(step);
+      if (letter <= breaks) hand::click(window.betű[letter]);
+    }
+    EXPECT_EQ(rows.size(), 1U << breaks);
+    EXPECT_EQ(captions(window.lbl_eredmény), nothing(6)) << utf8(name);
+    end_session();
+  }
+}
+
 TEST_F(SyllabifierTest, TheNextWordHasNoTagsOfTheLast) {
   auto& window = deal(u"asszony", u"asz-szony");
   window.beáll();
@@ -388,6 +413,19 @@ TEST_F(SyllabifierTest, AWordOfOneLetterOrOneSyllableIsRightAtOnce) {
     auto& window = deal(word, word);
     hand::click(window.cmd_kész);
     EXPECT_EQ(utf8(window.lbl_eredmény[0].Caption), utf8(word));
+    end_session();
+  }
+}
+
+TEST_F(SyllabifierTest, TheOnlyLetterOfAWordCannotBePulled) {
+  for (const Text& word : {Text(u"ó"), Text(u"sz")}) {
+    auto& window = deal(word, word);
+    forget_commands();
+    ASSERT_EQ(window.betű.count(), 1);
+    pull(window, 0, 1);
+    hand::click(window.betű[0]);
+    EXPECT_EQ(row(window), utf8(word));
+    EXPECT_EQ(commands(), "");
     end_session();
   }
 }
