@@ -67,6 +67,10 @@ TEST_F(DrumTest, TakesTheLookOfTheMainWindowInTheMiddleOfTheScreen) {
 
 TEST_F(DrumTest, TakesSevenTenthsOfTheScreen) { expect_share_of_screen(load<frm_dobszerkó>(), 0.7); }
 
+TEST_F(DrumTest, TheLettersFillTheirKeys) {
+  load<frm_dobszerkó>().billentyű.each([this](const Label& key) { expect_fitted(key); });
+}
+
 // The sounds.
 
 TEST_F(DrumTest, SoundsAreDealtInTheOrderOfTheListingTheCommaFirst) {

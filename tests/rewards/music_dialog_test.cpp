@@ -39,6 +39,12 @@ TEST_F(MusicDialogTest, HasItsCaptions) {
   EXPECT_EQ(dialog.cmd_áthelyez.count(), 2);
 }
 
+TEST_F(MusicDialogTest, StandsInTheMiddleOfTheScreen) {
+  const auto& dialog = load<frm_zenebeáll>();
+  EXPECT_EQ(dialog.Left, (machine.screen_size().width - dialog.Width) / 2);
+  EXPECT_EQ(dialog.Top, (machine.screen_size().height - dialog.Height) / 2);
+}
+
 TEST_F(MusicDialogTest, ListsTheTunesOfTheFolderAndNothingElse) {
   put_app_file(u"dysmid\\notes.txt");
   auto& dialog = load<frm_zenebeáll>();
@@ -249,6 +255,7 @@ class DiscardingTest : public MusicDialogTest {
     leave(dialog);
     EXPECT_EQ(titles(dialog), "b.mid a.mid ");
     EXPECT_EQ(dialog.list_playlist.list_index(), -1);
+    EXPECT_FALSE(dialog.cmd_törl.Enabled);
     EXPECT_TRUE(dialog.chk_zene_enged.ticked());
     EXPECT_EQ(commands(), "close midi\n");
     EXPECT_FALSE(dialog.visible());

@@ -118,6 +118,11 @@ TEST_F(PanelTest, IsCentred) {
 
 TEST_F(PanelTest, TakesNineTenthsOfTheScreen) { expect_share_of_screen(load<frm_gratuláció>(), 0.9); }
 
+TEST_F(PanelTest, TheButtonsAreFitted) {
+  const auto& panel = load<frm_gratuláció>();
+  for (const Button* button : {&panel.cmd_ok, &panel.cmd_dob, &panel.cmd_rajz}) expect_fitted(*button, 3);
+}
+
 TEST_F(PanelTest, SentenceAndCountFillTheirPlaces) {
   sounds_off();
   const std::vector<int> sentences{9, 28};

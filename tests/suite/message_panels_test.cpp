@@ -52,6 +52,7 @@ TEST_F(MessageTest, ThePanelsTakeTheirShareOfTheScreen) {
 
 TEST_F(MessageTest, TheButtonsAreFitted) {
   expect_fitted(load<szövegüzenet>().Command1, 3);
+  expect_fitted(load<üzenet>().Command1, 3);
   expect_fitted(load<frm_szövegüzenet>().cmd_ok);
   expect_fitted(load<frm_üzenet>().cmd_ok);
   expect_fitted(load<Névjegy>().cmdOK, 3);
@@ -92,6 +93,29 @@ TEST_F(MessageTest, ATextGrowsToJustInsideItsSpace) {
     EXPECT_TRUE(next_too_high || next_too_wide) << utf8(text);
     EXPECT_DOUBLE_EQ(panel.szöveg.Height, height_at(panel, size, width));
   }
+}
+
+TEST_F(MessageTest, ATextStopsSixtyTwipsAboveTheButton) {
+  auto& panel = load<szövegüzenet>();
+  panel.szöveg.Caption = u"Hurrá!";
+  const double height = height_at(panel, 20, panel.szöveg.Width);
+  for (const double spare : {0.0, 1.0}) {
+    panel.Command1.Top = panel.szöveg.Top + height + 60 + spare;
+    panel.szöveg.Click();
+    EXPECT_EQ(panel.szöveg.Font.size, spare > 0 ? 20 : 19) << "a text must be lower than its space";
+  }
+}
+
+TEST_F(MessageTest, ATextStopsGrowingWhereItIsWiderThanTheWindowWithoutItsMargins) {
+  auto& panel = text_panel(u"Hurrá!");
+  const double size = panel.szöveg.Font.size;
+  const double width = panel.szöveg.Width;
+  panel.set_inner_size({width + 239, 10000});
+  panel.szöveg.Click();
+  EXPECT_EQ(panel.szöveg.Font.size, 7);
+  panel.set_inner_size({width + 240, 10000});
+  panel.szöveg.Click();
+  EXPECT_EQ(panel.szöveg.Font.size, size);
 }
 
 TEST_F(MessageTest, TheFirstStepIsTakenBackToo) {

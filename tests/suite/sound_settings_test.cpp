@@ -60,6 +60,12 @@ TEST_F(SoundDialogTest, HasTheHeadingsOfItsLists) {
   EXPECT_TRUE(has_label(u"Hibás megoldás esetén megszólaló hangok:"));
 }
 
+TEST_F(SoundDialogTest, StandsInTheMiddleOfTheScreen) {
+  const auto& d = dialog();
+  EXPECT_EQ(d.Left, (machine.screen_size().width - d.Width) / 2);
+  EXPECT_EQ(d.Top, (machine.screen_size().height - d.Height) / 2);
+}
+
 TEST_F(SoundDialogTest, ListsTheWaveFilesOfItsFolder) {
   auto& d = dialog();
   EXPECT_EQ(utf8(d.Filelist.Pattern), "*.wav");
@@ -181,6 +187,21 @@ TEST_F(SoundDialogTest, CancelReadsTheFilesAgain) {
   EXPECT_EQ(entries(d.Lst_hibahang), "c.wav a.wav ");
   EXPECT_EQ(d.chk_hang_a_gratulálópanelen.value(), 0);
   EXPECT_FALSE(d.visible());
+}
+
+TEST_F(SoundDialogTest, AfterCancelNothingIsSelectedAndTheCountsAreThoseOfTheFiles) {
+  put_lists();
+  auto& d = dialog();
+  hand::select(d.Filelist, 2);
+  hand::click(d.cmd_gartula);
+  hand::select(d.Lst_hibahang, 1);
+  ASSERT_EQ(utf8(d.Label_gartula.Caption), "3 hang");
+  hand::click(d.cmd_mégsem);
+  EXPECT_EQ(utf8(d.Label_gartula.Caption), "2 hang");
+  EXPECT_EQ(d.lst_gratulahang.list_index(), -1);
+  EXPECT_EQ(d.Lst_hibahang.list_index(), -1);
+  EXPECT_FALSE(d.cmd_hangtörl_gratulahangból.Enabled);
+  EXPECT_FALSE(d.cmd_hangtörl_hibahangból.Enabled);
 }
 
 TEST_F(SoundDialogTest, WithoutAFileCancelKeepsTheBoxesAsTheyWere) {
@@ -386,6 +407,21 @@ TEST_F(SoundDialogTest, EachListTellsItsCount) {
   EXPECT_EQ(utf8(d.Label_gartula.Caption), "2 hang");
   EXPECT_EQ(utf8(d.Label_helyeshang.Caption), "0 hang");
   EXPECT_EQ(utf8(d.Label_hibahang.Caption), "1 hang");
+}
+
+TEST_F(SoundDialogTest, AddingTheLastFileCountsToo) {
+  auto& d = dialog();
+  hand::select(d.Filelist, 2); // behind it there is none to step on to
+  hand::click(d.cmd_hibahang_add);
+  EXPECT_EQ(utf8(d.Label_hibahang.Caption), "1 hang");
+}
+
+TEST_F(SoundDialogTest, AListReadFromItsFileTellsItsCountFromTheStart) {
+  put_lists();
+  auto& d = dialog();
+  EXPECT_EQ(utf8(d.Label_gartula.Caption), "2 hang");
+  EXPECT_EQ(utf8(d.Label_helyeshang.Caption), "1 hang");
+  EXPECT_EQ(utf8(d.Label_hibahang.Caption), "2 hang");
 }
 
 TEST_F(SoundDialogTest, TheThreeListsShareOnePairOfButtonPictures) {
