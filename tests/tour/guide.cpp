@@ -2,6 +2,7 @@
 
 #include "tests/tour/camera.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QTimer>
 
@@ -93,11 +94,18 @@ void Guide::turn() {
     if (waiting_.elapsed() > patience) return give_up(stop);
     return schedule();
   }
-  if (!stop.done) leave_stop();
   if (stop.done && waiting_.elapsed() > patience) return give_up(stop);
+  const std::size_t here = next_;
+  if (!stop.done) leave_stop();
   // What the stop does may show a window and return only when that one is gone: the next stop is waited for before.
   schedule();
-  platform_.act([&] { stop.deed(*front); });
+  bool heard = false;
+  platform_.act([&] {
+    heard = true;
+    stop.deed(*front);
+  });
+  // The machine is deaf while it drops what was done during an animation.
+  if (!heard) next_ = here;
 }
 
 void Guide::leave_stop() {
@@ -110,6 +118,8 @@ void Guide::give_up(const Stop& stop) {
   const Window* front = platform_.active_window();
   fault("stop " + std::to_string(next_ + 1) + " was not reached: " + to_utf8(stop.window) +
         " should be at the front, where " + (front == nullptr ? "nothing" : to_utf8(front->Name)) + " is");
+  // A report of an error would wait for somebody to close it.
+  if (QWidget* box = QApplication::activeModalWidget()) box->close();
   platform_.end_process();
 }
 
