@@ -54,23 +54,23 @@ void Census::add(CountingMachine& machine, const Session& session) {
   }
 }
 
-std::vector<Text> Census::report(std::ostream& out, const std::map<Text, int>& events_by_window) const {
-  std::vector<Text> never;
+std::set<Text> Census::report(std::ostream& out, const std::map<Text, int>& events_by_window) const {
+  std::set<Text> never;
   out << "windows, how often shown, events:\n";
   for (const auto& [name, times] : shown_) {
     const int events = count_of(events_by_window, name);
     out << "  " << to_utf8(name) << ": " << times << ", " << events << '\n';
-    if (times == 0 && name != hidden_window) never.push_back(name);
+    if (times == 0 && name != hidden_window) never.insert(name);
   }
   for (const Text& name : offered_) {
-    if (count_of(events_by_window, name) == 0) never.push_back(name);
+    if (count_of(events_by_window, name) == 0) never.insert(name);
   }
   print(out, "titles played", titles_);
   print(out, "drums struck", drums_);
   print(out, "help pages opened", help_pages_);
-  if (titles_.empty()) never.emplace_back(u"music");
-  if (drums_.empty()) never.emplace_back(u"drums");
-  if (help_pages_.empty()) never.emplace_back(u"help viewer");
+  if (titles_.empty()) never.emplace(u"music");
+  if (drums_.empty()) never.emplace(u"drums");
+  if (help_pages_.empty()) never.emplace(u"help viewer");
   return never;
 }
 

@@ -36,7 +36,7 @@ class Census {
 
   /// Prints all counts and returns what was never reached though it is there: windows that are offered and got no event
   /// or that were loaded and never shown, music, drums, the help viewer.
-  std::vector<Text> report(std::ostream& out, const std::map<Text, int>& events_by_window) const;
+  std::set<Text> report(std::ostream& out, const std::map<Text, int>& events_by_window) const;
 
  private:
   std::map<Text, int> shown_;

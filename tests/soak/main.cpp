@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
     disk = MemoryFiles();
     copy_files(machine.files(), disk);
   }
-  const std::vector<Text> never = census.report(std::cout, person.events_by_window());
+  const std::set<Text> never = census.report(std::cout, person.events_by_window());
   if (events >= enough_for_all && !never.empty()) {
     for (const Text& name : never) std::cerr << "never reached: " << to_utf8(name) << '\n';
     return EXIT_FAILURE;
