@@ -5,11 +5,16 @@
 
 namespace cserko {
 
-/// A number that changes with every task that is solved, from the strip and the sets that are behind it.
-inline int task_number(const ElementArray<Label>& strip, int sets) {
+/// How many tasks a strip shows as solved.
+inline int solved_tasks(const ElementArray<Label>& strip) {
   int filled = 0;
   strip.each([&](const Label& label) { filled += label.Caption.empty() ? 0 : 1; });
-  return sets * (strip.count() + 1) + filled;
+  return filled;
+}
+
+/// A number that changes with every task that is solved, from the strip and the sets that are behind it.
+inline int task_number(const ElementArray<Label>& strip, int sets) {
+  return sets * (strip.count() + 1) + solved_tasks(strip);
 }
 
 } // namespace cserko

@@ -21,13 +21,13 @@ QPoint WatchedPlatform::client_corner(const Window& window) const {
   return view->mapToGlobal(QPoint(0, 0));
 }
 
-QPoint WatchedPlatform::place_on_screen(const Element& element, Point point) const {
-  const WindowView* view = view_of(element.window());
+Spot WatchedPlatform::spot_of(const Element& element, Point point) const {
+  WindowView* view = view_of(element.window());
   const QWidget* widget = view != nullptr ? view->widget_of(element) : nullptr;
   if (widget == nullptr) throw std::logic_error("the element is not on the screen: " + to_utf8(element.Name));
   const double scale = fonts().scale();
-  return widget->mapToGlobal(
-      QPoint(static_cast<int>(std::lround(point.x * scale)), static_cast<int>(std::lround(point.y * scale))));
+  const QPoint pixel(static_cast<int>(std::lround(point.x * scale)), static_cast<int>(std::lround(point.y * scale)));
+  return {view, widget->mapTo(view, pixel)};
 }
 
 double WatchedPlatform::random() {

@@ -5,11 +5,18 @@
 #include "platform/qt/qt_platform.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <deque>
 #include <functional>
 #include <set>
 
 namespace cserko {
+
+/// A place in a window of the screen: pixels from the corner of its client area.
+struct Spot {
+  QPointer<QWidget> window;
+  QPoint place;
+};
 
 class WatchedPlatform : public QtPlatform {
  public:
@@ -24,8 +31,8 @@ class WatchedPlatform : public QtPlatform {
   bool settled(const Window& window) const;
   /// Where the client area of a shown window begins on the screen, pixels.
   QPoint client_corner(const Window& window) const;
-  /// Where a point of an element (twips, its own coordinates) lies on the screen, pixels.
-  QPoint place_on_screen(const Element& element, Point point) const;
+  /// Where a point of an element (twips, its own coordinates) is shown.
+  Spot spot_of(const Element& element, Point point) const;
 
   double random() override;
   PicturePtr load_picture(const Text& path) override;

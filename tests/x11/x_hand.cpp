@@ -1,7 +1,9 @@
 #include "tests/x11/x_hand.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QWidget>
+#include <QWindow>
 #include <array>
 #include <stdexcept>
 
@@ -9,8 +11,9 @@ namespace cserko {
 
 namespace {
 
-constexpr int pace = 5;       // ms between two actions
-constexpr int drag_steps = 8; // moves of a drag
+constexpr int pace = 5;               // ms between two actions
+constexpr int drag_steps = 8;         // moves of a drag
+constexpr int release_patience = 200; // ms for a release when another window has come to the front
 
 struct Symbol {
   int code;
@@ -40,6 +43,8 @@ std::uint32_t symbol_of(int code) {
   throw std::runtime_error("the hand has no key for the code " + std::to_string(code));
 }
 
+bool is_press(QEvent::Type type) { return type == QEvent::MouseButtonPress || type == QEvent::KeyPress; }
+
 } // namespace
 
 XHand::XHand(Place place) : place_(std::move(place)) {
@@ -49,19 +54,21 @@ XHand::XHand(Place place) : place_(std::move(place)) {
 }
 
 void XHand::click(Element& element) {
-  then_move(place_(element, {element.Width / 2, element.Height / 2}));
-  then_button(true);
-  then_button(false);
+  then_press(place_(element, {element.Width / 2, element.Height / 2}));
+  then_release();
 }
 
 void XHand::drag(Element& element, double dx, double dy) {
   const Point middle{element.Width / 2, element.Height / 2};
-  const QPoint from = place_(element, middle);
-  const QPoint to = place_(element, {middle.x + dx, middle.y + dy});
-  then_move(from);
-  then_button(true);
-  for (int step = 1; step <= drag_steps; ++step) then_move(from + (to - from) * step / drag_steps);
-  then_button(false);
+  const Spot from = place_(element, middle);
+  const QPoint way = place_(element, {middle.x + dx, middle.y + dy}).place - from.place;
+  then_press(from);
+  for (int step = 1; step <= drag_steps; ++step) {
+    then({.act = [this, from, way, step] {
+      if (from.window != nullptr) input_.move(from.window->mapToGlobal(from.place + way * step / drag_steps));
+    }});
+  }
+  then_release();
 }
 
 void XHand::key(int code, int shift) {
@@ -77,54 +84,71 @@ void XHand::key(int code, int shift) {
   }
 }
 
-bool XHand::idle() const { return actions_.empty() && heard_ >= sent_; }
-
 bool XHand::eventFilter(QObject* watched, QEvent* event) {
-  // A window hears of an event first, before the widget that it is meant for.
-  if (!watched->isWindowType() || !event->spontaneous()) return false;
-  switch (event->type()) {
-  case QEvent::MouseButtonPress:
-  case QEvent::MouseButtonDblClick:
-  case QEvent::MouseButtonRelease:
-  case QEvent::KeyPress:
-  case QEvent::KeyRelease:
-    ++heard_;
-    break;
-  default:
-    break;
-  }
+  // A window hears of an event first, before the widget that it is meant for. Of a double click it hears as of a press
+  // like any other, and once more as a double click. A key that is held repeats itself.
+  if (!watched->isWindowType() || !event->spontaneous() || event->type() != awaited_) return false;
+  if (const auto* key = dynamic_cast<QKeyEvent*>(event); key != nullptr && key->isAutoRepeat()) return false;
+  if (is_press(*awaited_)) pressed_ = watched;
+  awaited_.reset();
   return false;
 }
 
-void XHand::then_move(QPoint place) {
-  then([this, place] { input_.move(place); });
+void XHand::then(Action action) {
+  actions_.push_back(std::move(action));
   timer_.start(pace);
 }
 
-void XHand::then_button(bool down) {
-  then([this, down] { input_.button(1, down); }, true);
-  timer_.start(pace);
+void XHand::then_press(const Spot& spot) {
+  then({.ready = [this, spot] { return aim(spot); },
+        .act = [this] { input_.button(1, true); },
+        .heard_as = QEvent::MouseButtonPress});
+}
+
+void XHand::then_release() {
+  then({.act = [this] { input_.button(1, false); }, .heard_as = QEvent::MouseButtonRelease});
 }
 
 void XHand::then_key(std::uint32_t symbol, bool down) {
-  then([this, symbol, down] { input_.key(symbol, down); }, true);
-  timer_.start(pace);
+  then({.act = [this, symbol, down] { input_.key(symbol, down); },
+        .heard_as = down ? QEvent::KeyPress : QEvent::KeyRelease});
+}
+
+// Moves the pointer. A window that has just come may still be moved or raised by the window manager, and nobody presses
+// before they see the pointer where they want it.
+bool XHand::aim(const Spot& spot) {
+  if (spot.window == nullptr) return false;
+  input_.move(spot.window->mapToGlobal(spot.place));
+  const XInput::Pointer pointer = input_.pointer();
+  return pointer.window == spot.window->winId() && pointer.place == spot.place;
+}
+
+// A press that opens or closes a window may leave its release to nobody.
+bool XHand::still_awaiting() {
+  if (!awaited_) return false;
+  const bool press = is_press(*awaited_);
+  const bool window_changed = !press && pressed_ != QGuiApplication::focusWindow();
+  if (since_last_.elapsed() < (window_changed ? release_patience : patience)) return true;
+  if (press) ++lost_;
+  awaited_.reset();
+  return false;
 }
 
 void XHand::turn() {
-  if (heard_ < sent_) {
-    // The one before has not arrived yet. It never does where nobody may hear it, as behind a modal window.
-    if (since_last_.elapsed() < patience) return;
-    unheard_ += sent_ - heard_;
-    heard_ = sent_;
-  }
+  if (still_awaiting()) return;
   if (actions_.empty()) {
     timer_.stop();
     return;
   }
+  if (const Action& next = actions_.front(); next.ready && !next.ready()) {
+    if (since_last_.elapsed() < patience) return;
+    ++lost_;
+    actions_.clear();
+    return;
+  }
   const Action action = std::move(actions_.front());
   actions_.pop_front();
-  if (action.counted) ++sent_;
+  awaited_ = action.heard_as;
   since_last_.restart();
   action.act();
 }

@@ -3,20 +3,24 @@
 #pragma once
 
 #include "tests/players/hand.h"
+#include "tests/x11/watched_platform.h"
 #include "tests/x11/x_input.h"
 
 #include <QElapsedTimer>
+#include <QEvent>
 #include <QObject>
+#include <QPointer>
 #include <QTimer>
 #include <deque>
 #include <functional>
+#include <optional>
 
 namespace cserko {
 
 class XHand : public QObject, public Hand {
  public:
-  /// Where on the screen a point of an element lies: the element, the point in its own coordinates (twips).
-  using Place = std::function<QPoint(const Element&, Point)>;
+  /// What shows a point of an element: the element, the point in its own coordinates (twips).
+  using Place = std::function<Spot(const Element&, Point)>;
 
   explicit XHand(Place place);
 
@@ -26,9 +30,9 @@ class XHand : public QObject, public Hand {
   void key(int code, int shift) override;
 
   /// Whether all that it was told is done and the windows have heard of it.
-  bool idle() const;
-  /// Presses and releases that reached no window within `patience`.
-  int unheard() const { return unheard_; }
+  bool idle() const { return actions_.empty() && !awaited_; }
+  /// Presses that reached no window within `patience`, or whose place never came under the pointer.
+  int lost() const { return lost_; }
 
   static constexpr int patience = 2000; ///< ms
 
@@ -36,16 +40,19 @@ class XHand : public QObject, public Hand {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  /// Raw actions; `heard` says whether a window will hear of it in a press or release that is counted.
+  /// One raw action: when it can be done, what is done, and the event by which a window hears of it.
   struct Action {
-    std::function<void()> act;
-    bool counted = false;
+    std::function<bool()> ready{};
+    std::function<void()> act{};
+    std::optional<QEvent::Type> heard_as{};
   };
 
-  void then(std::function<void()> act, bool counted = false) { actions_.push_back({std::move(act), counted}); }
-  void then_move(QPoint place);
-  void then_button(bool down);
+  void then(Action action);
+  void then_press(const Spot& spot);
+  void then_release();
   void then_key(std::uint32_t symbol, bool down);
+  bool aim(const Spot& spot);
+  bool still_awaiting();
   void turn();
 
   Place place_;
@@ -53,9 +60,9 @@ class XHand : public QObject, public Hand {
   std::deque<Action> actions_;
   QTimer timer_;
   QElapsedTimer since_last_;
-  int sent_ = 0;
-  int heard_ = 0;
-  int unheard_ = 0;
+  std::optional<QEvent::Type> awaited_; ///< What the last action has still to be heard as.
+  QPointer<QObject> pressed_;           ///< The window that heard of the last press.
+  int lost_ = 0;
 };
 
 } // namespace cserko

@@ -26,6 +26,18 @@ XInput::XInput() : connection_(xcb_connect(nullptr, nullptr)) {
 
 void XInput::move(QPoint place) { fake(XCB_MOTION_NOTIFY, 0, place); }
 
+XInput::Pointer XInput::pointer() const {
+  Pointer found;
+  for (xcb_window_t window = root_; window != XCB_NONE;) {
+    const auto request = xcb_query_pointer(connection_.get(), window);
+    const auto reply = owned(xcb_query_pointer_reply(connection_.get(), request, nullptr));
+    if (!reply) break; // the window has gone meanwhile
+    found = {window, {reply->win_x, reply->win_y}};
+    window = reply->child;
+  }
+  return found;
+}
+
 void XInput::button(int number, bool down) {
   fake(down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, static_cast<std::uint8_t>(number));
 }

@@ -15,8 +15,16 @@ class XInput {
  public:
   XInput();
 
+  /// Where the pointer is: the innermost window under it, and the place in that window, pixels.
+  struct Pointer {
+    std::uint32_t window = 0;
+    QPoint place;
+  };
+
   /// Moves the pointer to a place of the screen, pixels.
   void move(QPoint place);
+  /// As the server sees it, behind all moves so far.
+  Pointer pointer() const;
   /// Buttons of the server: 1 left, 2 middle, 3 right.
   void button(int number, bool down);
   /// A key by its key symbol. Throws std::runtime_error for a symbol that no key has.
