@@ -88,6 +88,14 @@ TEST_F(AnswerTest, AnotherWordOfTheRecordsWinsAndItsPictureIsShown) {
   EXPECT_EQ(window.feladat_index(), 1);
 }
 
+TEST_F(AnswerTest, TheFirstRecordCountsAsAnotherWordToo) {
+  auto& window = deal({u"sok", u"kos", u"utolsó"}, 1);
+  lay(window, {u"s", u"o", u"k"});
+  hand::click(window.cmd_kész);
+  EXPECT_TRUE(solved(window));
+  EXPECT_EQ(window.feladat_index(), 0);
+}
+
 TEST_F(AnswerTest, TheLastRecordIsNeverDealtButItsWordWins) {
   auto& window = deal({u"kos", u"hal", u"sok"}, 0);
   lay(window, {u"s", u"o", u"k"});

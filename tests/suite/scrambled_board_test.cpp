@@ -26,13 +26,13 @@ class BoardTest : public ScrambledTest {
 TEST_F(BoardTest, ALetterFollowsThePointWhereItWasTaken) {
   auto& window = kos();
   Label& letter = window.betű[0];
-  hand::press(letter, 200.4, 300.6);
-  hand::move(letter, 700, 200);
-  // 1000 + 700 − 200, 2000 + 200 − 301
-  EXPECT_EQ(letter.Left, 1500);
-  EXPECT_EQ(letter.Top, 1899);
+  hand::press(letter, 200.6, 300.6);
+  hand::move(letter, 700.4, 200.6);
+  // The point where it was taken counts as 201, 301, and the place as a whole number too.
+  EXPECT_EQ(letter.Left, 1499);
+  EXPECT_EQ(letter.Top, 1900);
   hand::release(letter, 200, 300);
-  EXPECT_EQ(letter.Left, 1500);
+  EXPECT_EQ(letter.Left, 1499);
 }
 
 TEST_F(BoardTest, PressAndReleasePlayTheMovingSound) {
@@ -177,6 +177,15 @@ TEST_F(BoardTest, TheKeysWorkWhereverTheFocusIs) {
   EXPECT_EQ(window.betű[0].Left, 1000 + step(window));
 }
 
+TEST_F(BoardTest, TheArrowsBelongToTheLettersAndMoveNoFocus) {
+  auto& window = kos();
+  for (int code = key::left; code <= key::down; ++code) {
+    KeyEvent event{code};
+    window.KeyDown(event);
+    EXPECT_EQ(event.code, 0) << code;
+  }
+}
+
 TEST_F(BoardTest, OtherKeysLeaveTheSelectedLetter) {
   auto& window = kos();
   hand::key(window, key::space);
@@ -249,6 +258,7 @@ TEST_F(BoardTest, AGreyedBoxDoesNotAllowShuffling) {
 TEST_F(BoardTest, SortingMakesARowFromTheLeftmostLetterInItsHeight) {
   auto& window = kos();
   window.betű[0].Left = 7000; // order o (4000), s (6000), k
+  window.kép.Font.size = 5;   // whatever the frame was written on with, the letters are what is measured
   hand::click(window.cmd_rendez);
   const double o = text_width(window, u"o");
   const double s = text_width(window, u"s");

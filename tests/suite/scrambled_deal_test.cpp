@@ -81,7 +81,12 @@ TEST_F(DealTest, ClosingByTheCloseControlUnloadsTheDialogFirst) {
             (std::vector<std::string>{"unload frm_cserkó_beáll", "unload frm_cserkó"}));
 }
 
-TEST_F(DealTest, TakesNearlyTheWholeScreen) { expect_share_of_screen(deal({u"alma", u"körte"}), 0.95); }
+TEST_F(DealTest, TakesNearlyTheWholeScreenAndStandsInItsMiddle) {
+  const auto& window = deal({u"alma", u"körte"});
+  expect_share_of_screen(window, 0.95);
+  EXPECT_EQ(window.Left, (machine.screen_size().width - window.Width) / 2);
+  EXPECT_EQ(window.Top, (machine.screen_size().height - window.Height) / 2);
+}
 
 TEST_F(DealTest, TheInstructionIsFittedAndKeepsItsText) {
   auto& window = deal({u"alma", u"körte"});
@@ -185,6 +190,19 @@ TEST_F(DealTest, AWordTooWideForNineTenthsOfTheFrameIsThrownAway) {
   EXPECT_EQ(window.feladat_index(), 1);
 }
 
+TEST_F(DealTest, AWordOfJustNineTenthsOfTheFrameIsDealt) {
+  auto& window = deal({u"eeeeeeeee", u"kos", u"x"}, 1);
+  const double width = text_width(window, u"eeeeeeeee");
+  window.kép.Width = width / 9 * 10;
+  ASSERT_EQ(0.9 * window.kép.Width, width);
+  deal_next(window, 0);
+  EXPECT_EQ(window.feladat_index(), 0);
+  window.kép.Width -= 2;
+  machine.script_random({record(0), record(1)});
+  window.beáll();
+  EXPECT_EQ(window.feladat_index(), 1);
+}
+
 TEST_F(DealTest, WithNoOptionOnThePreviousWordStands) {
   auto& window = deal({u"alma", u"kos", u"hal", u"x"}, 1);
   for (int i = 0; i < 3; ++i) dialog().opt_betszám[i].set_value(false);
@@ -262,6 +280,21 @@ TEST_F(DealTest, TheElementsOfTheLastPuzzleAreGone) {
   EXPECT_EQ(window.betű.count(), 3);
 }
 
+TEST_F(DealTest, ANewPuzzleSelectsNothingAndTakesTheLetterOutOfTheHand) {
+  auto& window = deal({u"malac", u"kos", u"x"});
+  hand::key(window, key::space);
+  hand::press(window.betű[0], 10, 10);
+  hand::key(window, key::space);
+  deal_next(window, 1);
+  EXPECT_TRUE(selected(window).empty());
+  const auto before = positions(window);
+  hand::move(window.betű[0], 3000, 3000);
+  hand::release(window.betű[0], 10, 10);
+  hand::key(window, key::right);
+  EXPECT_EQ(positions(window), before);
+  EXPECT_EQ(selected(window).size(), 1U);
+}
+
 TEST_F(DealTest, TheHelpsAreEnabledByTheirCheckBoxesAndStayOnTheScreen) {
   put_settings(u"kiscserko.ini", {u" 12 ", u"False", u"True", u"False", u" 1 ", u" 0 ", u" 2 "});
   auto& window = deal({u"alma", u"kos", u"x"});
@@ -336,6 +369,14 @@ TEST_F(PlacementTest, TouchingAtTheLeftAndAboveIsNoOverlap) {
   end_session();
   auto& window = place({4000, 4000}, {{left + 1, above + 1}, {left, 4000}});
   EXPECT_EQ(window.betű[1].Left, left);
+}
+
+TEST_F(PlacementTest, TouchingAboveIsNoOverlapAndOneTwipLessIs) {
+  deal({u"ab", u"x"});
+  const double above = 4000 - height();
+  end_session();
+  auto& window = place({4000, 4000}, {{4000, above + 1}, {4000, above}});
+  EXPECT_EQ(window.betű[1].Top, above);
 }
 
 TEST_F(PlacementTest, NoLettersOverlapAfterScattering) {

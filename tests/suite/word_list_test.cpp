@@ -108,6 +108,23 @@ TEST(WordList, TheTailOfALongerWordCountsWhereTheReadingStartsInIt) {
   EXPECT_LT(found, 26);
 }
 
+// 180 lines of five bytes, "b100" to "b279". The first step compares with line 90, which leaves less than 500 bytes.
+std::string short_lines(std::size_t line, const std::string& four_characters) {
+  std::string bytes;
+  for (int i = 100; i < 280; ++i) bytes += "b" + std::to_string(i) + "\r";
+  return bytes.replace(line * 5, 4, four_characters);
+}
+
+TEST(WordList, TheLastFiveHundredBytesAreReadLineByLineAndNeedNoOrder) {
+  EXPECT_TRUE(szó_a_szótárban(short_lines(179, "b19x"), u"b19x"));
+  EXPECT_FALSE(szó_a_szótárban(short_lines(60, "b19x"), u"b19x")) << "that half was left behind";
+}
+
+TEST(WordList, TheReadingStopsAtTheLineThatTheSearchHasPassed) {
+  EXPECT_TRUE(szó_a_szótárban(short_lines(89, "aaaa"), u"aaaa"));
+  EXPECT_FALSE(szó_a_szótárban(short_lines(91, "aaaa"), u"aaaa"));
+}
+
 TEST(WordList, WordsLongerThanTheBackStepAreFoundToo) {
   Words words;
   for (int i = 0; i < 100; ++i) words.push_back(Text(60, u'a') + to_text(100 + i));
