@@ -1,5 +1,7 @@
-// The look of the windows: the program's icon and the paper behind everything. Drawn by code, the same on each machine.
+// The look of the windows: the program's icon, the paper behind everything and the back of the cards. Drawn by code,
+// the same on each machine.
 #include "data/builder/builder.h"
+#include "data/pack/metafile_device.h"
 #include "data/pack/table.h"
 
 #include <QBuffer>
@@ -58,6 +60,29 @@ QImage window_icon() {
   return image;
 }
 
+// A flower of ink drops for the back of a card.
+QByteArray card_back() {
+  constexpr int petals = 8;
+  const QColor cream(0xFB, 0xF1, 0xD8), edge(0xC9, 0x6F, 0x2B), ink(0x7A, 0x52, 0x2E);
+  const double centre = kMetafileSide / 2.0;
+  MetafileDevice device;
+  QPainter painter(&device);
+  painter.setPen(Qt::NoPen);
+  painter.translate(centre, centre);
+  for (int petal = 0; petal < petals; ++petal) {
+    painter.setBrush(petal % 2 == 0 ? cream : edge);
+    painter.drawPath(ink_drop({0, centre * 0.16}, centre * 0.52));
+    painter.setBrush(ink);
+    painter.drawEllipse(QPointF(0, centre * 0.84), centre * 0.045, centre * 0.045);
+    painter.rotate(360.0 / petals);
+  }
+  painter.setBrush(ink);
+  painter.drawEllipse(QPointF(0, 0), centre * 0.08, centre * 0.08);
+  painter.end();
+  if (!device.refusal().isEmpty()) throw PackError("the back of the cards cannot be kept: " + device.refusal());
+  return write_metafile(device.shapes());
+}
+
 // A small generator of its own keeps the paper's grain the same in every build.
 class Grain {
  public:
@@ -112,6 +137,7 @@ QImage paper() {
 void build_look(const BuildPaths& paths) {
   write_if_changed(paths.output + "/cserko-icon.png", png_of(window_icon()));
   write_if_changed(paths.output + "/paper.png", png_of(paper()));
+  write_if_changed(paths.output + "/kártyahát.wmf", card_back());
 }
 
 } // namespace cserko
