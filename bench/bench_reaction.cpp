@@ -16,10 +16,10 @@
 #include "platform/qt/sound_font.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QKeyEvent>
 #include <QTemporaryDir>
 #include <ctime>
+#include <optional>
 #include <random>
 
 namespace {
@@ -110,9 +110,11 @@ BENCHMARK(KeyToDrum)->Unit(benchmark::kMillisecond)->Iterations(260);
 // ---- Music ----
 
 /// The longest time in which the event loop has done nothing else, from a choice in the list until the title sounds.
-double block_of_title(int index) {
+/// None if the list has no such entry.
+std::optional<double> block_of_title(int index) {
   Stage stage;
   auto& dialog = stage.show<frm_zenebeáll>();
+  if (index >= dialog.filelist_zene.count()) return std::nullopt;
   forget(QString::fromStdString(find_sound_font()));
   for (const Text& name : dialog.filelist_zene.Items)
     forget(stage.machine.qt_files().real_path(dialog.filelist_zene.path() + u"\\" + name));
@@ -139,10 +141,15 @@ void OpenTitleInWindow(benchmark::State& state) {
   qputenv("SDL_AUDIODRIVER", "dummy");
   if (!is_sound_font(find_sound_font())) return state.SkipWithError("there is no sound font");
   std::vector<double> blocks;
-  for ([[maybe_unused]] auto _ : state) blocks.push_back(block_of_title(static_cast<int>(blocks.size())));
+  for ([[maybe_unused]] auto _ : state) {
+    while (const auto block = block_of_title(static_cast<int>(blocks.size()))) blocks.push_back(*block);
+  }
+  if (blocks.empty()) return state.SkipWithError("the data pack is not built");
+  state.counters["titles"] = static_cast<double>(blocks.size());
   state.counters["median_ms"] = percentile(blocks, 50);
   judge(state, "longest_ms", percentile(blocks, 100), 50);
 }
+BENCHMARK(OpenTitleInWindow)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // ---- Cards ----
 
@@ -234,11 +241,5 @@ int main(int argc, char** argv) {
   qputenv("CSERKO_USER_DIR", folder.path().toUtf8());
   if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
-  const QDir tunes(QtFiles::find_pack() + QStringLiteral("/dysmid"));
-  const auto count = static_cast<int>(tunes.entryList({QStringLiteral("*.mid")}).size());
-  if (count == 0) qFatal("the data pack is not built");
-  benchmark::RegisterBenchmark("OpenTitleInWindow", OpenTitleInWindow)
-      ->Unit(benchmark::kMillisecond)
-      ->Iterations(count);
   return run_measurements(argc, argv);
 }

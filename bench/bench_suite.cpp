@@ -128,7 +128,7 @@ void loading_beside_reading(benchmark::State& state, Source source) {
   Quickest reading;
   Quickest loading;
   load_records(files); // warms the disk's cache for both
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     reading.add(processor_time([&] { read_plainly(files); }));
     loading.add(load_records(files));
   }
@@ -143,7 +143,7 @@ void ten_times_the_records(benchmark::State& state, Source source) {
   const Files& many = source(1);
   Quickest once;
   Quickest ten_times;
-  for (auto _ : state) {
+  for ([[maybe_unused]] auto _ : state) {
     double ten_loads = 0;
     for (int i = 0; i < 10; ++i) {
       start_afresh();
@@ -174,7 +174,7 @@ void new_puzzle(benchmark::State& state) {
   session.képek.load(machine.files(), session.alapkönyvtár);
   auto& window = session.window<frm_cserkó>();
   std::vector<double> times;
-  for (auto _ : state) times.push_back(elapsed([&] { window.beáll(); }));
+  for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { window.beáll(); }));
   judge_deals(state, times);
 }
 
@@ -197,7 +197,7 @@ template<class Exercise> void deal(benchmark::State& state, void (Exercise::*new
   session.képek.load(machine.files(), session.alapkönyvtár);
   auto& window = session.window<Exercise>();
   std::vector<double> times;
-  for (auto _ : state) times.push_back(elapsed([&] { (window.*new_task)(); }));
+  for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { (window.*new_task)(); }));
   judge_deals(state, times);
 }
 

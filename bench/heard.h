@@ -77,10 +77,10 @@ class Heard {
     QFile file(file_);
     if (!file.open(QIODevice::ReadOnly)) return false;
     const QByteArray written = file.readAll();
-    const auto size = static_cast<qsizetype>(samples_.size() * sizeof samples_[0]);
-    constexpr auto buffer_bytes = static_cast<qsizetype>(buffer_frames * 4);
-    for (qsizetype at = 0; at + size <= written.size(); at += buffer_bytes) {
-      if (std::memcmp(written.constData() + at, samples_.data(), static_cast<std::size_t>(size)) == 0) return true;
+    const std::size_t size = samples_.size() * sizeof samples_[0];
+    constexpr std::size_t buffer_bytes = buffer_frames * 4;
+    for (std::size_t at = 0; at + size <= static_cast<std::size_t>(written.size()); at += buffer_bytes) {
+      if (std::memcmp(written.constData() + at, samples_.data(), size) == 0) return true;
     }
     return false;
   }
