@@ -292,6 +292,13 @@ TEST_F(SoundDialogTest, TheDeleteKeyDeletesToo) {
   EXPECT_EQ(entries(d.Filelist), "a.wav c.wav ");
 }
 
+TEST_F(SoundDialogTest, NoOtherKeyDeletes) {
+  auto& d = dialog();
+  hand::select(d.Filelist, u"b.wav");
+  for (const int code : {int{'A'}, key::backspace, key::space, key::insert}) hand::key(d, code);
+  EXPECT_EQ(entries(d.Filelist), "a.wav b.wav c.wav ");
+}
+
 TEST_F(SoundDialogTest, TheDeleteKeyOnAnotherListDeletesNothing) {
   put_lists();
   auto& d = dialog();
