@@ -1,5 +1,6 @@
 #include "tests/x11/x_input.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <stdexcept>
 #include <xcb/xcb.h>
@@ -60,7 +61,8 @@ std::uint8_t XInput::key_code(std::uint32_t symbol) const {
   if (mapping) {
     const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
     for (int i = 0; i < count; ++i) {
-      if (symbols[i * mapping->keysyms_per_keycode] == symbol) return static_cast<std::uint8_t>(first + i);
+      const xcb_keysym_t* of_key = symbols + std::ptrdiff_t{i} * mapping->keysyms_per_keycode;
+      if (*of_key == symbol) return static_cast<std::uint8_t>(first + i);
     }
   }
   throw std::runtime_error("no key has the symbol " + std::to_string(symbol));
