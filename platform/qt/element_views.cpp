@@ -89,10 +89,7 @@ class LabelWidget : public ElementWidget {
       paint_edge(painter);
     painter.setPen(color);
     paint_text(painter, {});
-    if (label_.Border) {
-      painter.setPen(QPen(theme::text, 1));
-      painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (label_.Border) paint_border(painter, rect(), theme::text, context().fonts.scale());
   }
 
  private:
@@ -147,10 +144,7 @@ class PictureWidget : public ElementWidget {
     if (box_.Picture) paint_picture(painter);
     if (const auto* canvas = static_cast<const QtCanvas*>(box_.drawn_canvas()))
       painter.drawImage(0, 0, canvas->image());
-    if (box_.Border) {
-      painter.setPen(QPen(theme::line, 1));
-      painter.drawRect(rect().adjusted(0, 0, -1, -1));
-    }
+    if (box_.Border) paint_border(painter, rect(), theme::line, context().fonts.scale());
     if (shows_focus(*this, context()) && box_.TabStop) paint_focus_ring(painter, rect(), context().fonts.scale());
   }
 
@@ -327,11 +321,12 @@ class FrameWidget : public ElementWidget {
     const double scale = context().fonts.scale();
     const QFontMetricsF& metrics = context().fonts.metrics(element().Font);
     const QString title = to_qt(without_mnemonic(element().Caption));
-    const double top = title.isEmpty() ? 1 : metrics.height() / 2;
+    const double top = title.isEmpty() ? std::max(1.0, twips_per_pixel * scale) : metrics.height() / 2;
     const QRectF title_place(150 * scale, 0, metrics.horizontalAdvance(title) + 120 * scale, metrics.height());
     if (!title.isEmpty()) painter.setClipRegion(QRegion(rect()).subtracted(title_place.toAlignedRect()));
-    painter.setPen(QPen(theme::line, 1));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, top, -1, -1), 90 * scale, 90 * scale);
+    const double width = std::max(1.0, twips_per_pixel * scale);
+    painter.setPen(QPen(theme::line, width));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(width, top, -width, -width), 90 * scale, 90 * scale);
     painter.setClipping(false);
     painter.setPen(text_color(*this, element()));
     painter.setFont(context().fonts.font(element().Font));

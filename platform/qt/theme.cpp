@@ -1,9 +1,10 @@
 #include "platform/qt/theme.h"
 
+#include "platform/qt/theme_style.h"
+
 #include <QApplication>
 #include <QPalette>
 #include <QScreen>
-#include <QStyleFactory>
 #include <algorithm>
 #include <cmath>
 
@@ -34,7 +35,7 @@ double contrast(const QColor& a, const QColor& b) {
 }
 
 void apply() {
-  QApplication::setStyle(QStyleFactory::create("Fusion"));
+  QApplication::setStyle(new ThemeStyle(screen_zoom()));
   QPalette colors;
   colors.setColor(QPalette::Window, paper);
   colors.setColor(QPalette::WindowText, text);

@@ -15,6 +15,7 @@ inline constexpr QColor button(250, 236, 205);
 inline constexpr QColor button_hover(255, 244, 220);
 inline constexpr QColor button_pressed(238, 220, 184);
 inline constexpr QColor button_disabled(246, 240, 226);
+inline constexpr QColor scroll_handle(217, 190, 146);
 inline constexpr QColor field(255, 253, 247);
 inline constexpr QColor accent(24, 98, 94);
 

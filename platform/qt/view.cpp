@@ -5,6 +5,7 @@
 #include "platform/qt/theme.h"
 
 #include <QPainter>
+#include <algorithm>
 #include <cmath>
 
 namespace cserko {
@@ -82,6 +83,14 @@ void paint_caption(QPainter& painter, const QRectF& place, const Element& elemen
   if (!wrapped && element.Caption.find(u'\r') != Text::npos) flags &= ~Qt::TextSingleLine;
   if (element.kind() != ElementKind::Label) flags |= context.alt_held ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
   painter.drawText(place, flags | Qt::TextDontClip, lines_to_qt(element.Caption));
+}
+
+void paint_border(QPainter& painter, const QRect& place, const QColor& color, double scale) {
+  const int width = std::max(1, static_cast<int>(twips_per_pixel * scale));
+  painter.fillRect(QRect(place.left(), place.top(), place.width(), width), color);
+  painter.fillRect(QRect(place.left(), place.bottom() - width + 1, place.width(), width), color);
+  painter.fillRect(QRect(place.left(), place.top(), width, place.height()), color);
+  painter.fillRect(QRect(place.right() - width + 1, place.top(), width, place.height()), color);
 }
 
 void paint_focus_ring(QPainter& painter, const QRectF& place, double scale) {

@@ -84,6 +84,9 @@ std::unique_ptr<View> make_input_view(Element& element, ViewContext& context, QW
 void paint_caption(QPainter& painter, const QRectF& place, const Element& element, const ViewContext& context,
                    int alignment, bool wrapped);
 
+/// A line around a place, inside it, as thick as the screen is large.
+void paint_border(QPainter& painter, const QRect& place, const QColor& color, double scale);
+
 /// The ring around what has the keyboard focus.
 void paint_focus_ring(QPainter& painter, const QRectF& place, double scale);
 
