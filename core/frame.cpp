@@ -97,8 +97,10 @@ void fit_caption(Element& control, Text& text) {
 void print_halo(PictureBox& box, Point place, TextView text) {
   const double radius = std::floor(box.Width / 75);
   const double step = 3.1415 / (box.Height / 300);
-  for (double angle = 0; angle <= 6.283; angle += step) {
+  double angle = 0;
+  while (angle <= 6.283) {
     box.canvas().print({place.x + radius * std::sin(angle), place.y + radius * std::cos(angle)}, text, box.Font, white);
+    angle += step;
   }
 }
 

@@ -40,8 +40,9 @@ frm_főablak::frm_főablak(Session& session)
 void frm_főablak::design_buttons() {
   const Rect first{cmd_játék[0].Left, cmd_játék[0].Top, cmd_játék[0].Width, cmd_játék[0].Height};
   for (int i = 0; i < static_cast<int>(exercise_table.size()); ++i) {
+    const int row = i / columns;
     const double left = first.left + i % columns * column_pitch;
-    const double top = first.top + i / columns * row_pitch;
+    const double top = first.top + row * row_pitch;
     const ExerciseEntry& entry = exercise_table[static_cast<std::size_t>(i)];
     if (i == 0) {
       cmd_játék[0].Caption = entry.caption;

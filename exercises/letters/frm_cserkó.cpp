@@ -10,6 +10,7 @@
 #include "feedback/sounds.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace cserko {
 
@@ -182,8 +183,8 @@ void frm_cserkó::újrakeverés() {
 }
 
 std::vector<int> frm_cserkó::letters_by_left(By by) const {
-  std::vector<int> order;
-  for (int i = 0; i < betű.count(); ++i) order.push_back(i);
+  std::vector<int> order(static_cast<std::size_t>(betű.count()));
+  std::iota(order.begin(), order.end(), 0);
   exchange_sort(order, [&](int left, int right) {
     const double a = betű[left].Left;
     const double b = betű[right].Left;
