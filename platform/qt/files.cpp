@@ -98,7 +98,7 @@ QString QtFiles::find_below(const QString& root, const QString& below) const {
 QString QtFiles::find(const Text& path) const {
   const Place place = place_of(path);
   for (const QString& root : place.roots) {
-    if (const QString found = find_below(root, place.below); !found.isEmpty()) return found;
+    if (QString found = find_below(root, place.below); !found.isEmpty()) return found;
   }
   return {};
 }
@@ -116,7 +116,7 @@ QString QtFiles::to_write(const Text& path) const {
 }
 
 QString QtFiles::real_path(const Text& path) const {
-  const QString found = find(path);
+  QString found = find(path);
   if (!found.isEmpty()) return found;
   const Place place = place_of(path);
   return place.roots.isEmpty() ? normalized(path) : place.roots.back() + '/' + place.below;
