@@ -42,7 +42,7 @@ QtPlatform::QtPlatform()
   frame_.start();
   media_ =
       std::make_unique<SdlMedia>([this](const std::u16string& path) { return files_.real_path(path).toStdString(); });
-  seed_random();
+  QtPlatform::seed_random();
   QApplication::setQuitOnLastWindowClosed(false);
   qApp->installEventFilter(this);
 }

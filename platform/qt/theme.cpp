@@ -36,7 +36,7 @@ double contrast(const QColor& a, const QColor& b) {
 
 void apply() {
   QApplication::setStyle(new ThemeStyle(screen_zoom()));
-  QPalette colors;
+  QPalette colors; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the style
   colors.setColor(QPalette::Window, paper);
   colors.setColor(QPalette::WindowText, text);
   colors.setColor(QPalette::Base, field);
