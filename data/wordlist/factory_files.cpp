@@ -1,7 +1,5 @@
 #include "factory_files.h"
 
-#include "core/codepage.h"
-#include "platform/text.h"
 #include "settings_lines.h"
 
 #include <sstream>
@@ -15,7 +13,7 @@ namespace {
 std::string settings_line(const std::string& kind, const std::string& value) {
   if (kind == "number") return number_line(std::stoi(value));
   if (kind == "word" && (value == "True" || value == "False")) return word_line(value == "True");
-  if (kind == "quoted") return quoted_line(to_cp1250(from_utf8(value)));
+  if (kind == "quoted") return quoted_line(value);
   throw std::runtime_error("no such kind of line or value: " + kind + " " + value);
 }
 
@@ -48,7 +46,7 @@ std::string letter_pairs(std::istream& list) {
     const auto hyphen = line.find('-');
     if (hyphen == std::string::npos || hyphen == 0 || hyphen + 1 == line.size())
       throw std::runtime_error("not a pair of letters: \"" + line + "\"");
-    bytes += text_line(to_cp1250(from_utf8(line)));
+    bytes += text_line(line);
   }
   if (count != pair_count) throw std::runtime_error("there must be 31 pairs of letters");
   return bytes;

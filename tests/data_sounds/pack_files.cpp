@@ -1,5 +1,7 @@
 #include "pack_files.h"
 
+#include "core/codepage.h"
+
 #include <algorithm>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -28,6 +30,12 @@ std::vector<std::string> lines_of(const std::string& bytes) {
     EXPECT_EQ(lines.back().find_first_of("\r\n"), std::string::npos);
     start = end + 2;
   }
+  return lines;
+}
+
+std::vector<std::string> text_lines_of(const std::string& bytes) {
+  std::vector<std::string> lines = lines_of(bytes);
+  for (std::string& line : lines) line = to_utf8(from_cp1250(line));
   return lines;
 }
 

@@ -20,6 +20,9 @@ std::string bytes_of(const std::filesystem::path& path);
 /// Lines of bytes that all have to end with CR LF, without their ends.
 std::vector<std::string> lines_of(const std::string& bytes);
 
+/// The same lines from code page 1250 to UTF-8.
+std::vector<std::string> text_lines_of(const std::string& bytes);
+
 /// Names of the files of a folder of the pack that end with `ending`, in alphabetical order.
 std::vector<std::string> names_in(std::string_view folder, std::string_view ending);
 
