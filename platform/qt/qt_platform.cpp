@@ -327,15 +327,24 @@ void QtPlatform::paint_now(WindowView& view) {
   QCoreApplication::sendPostedEvents(&view, QEvent::UpdateRequest);
 }
 
-void QtPlatform::redraw(Window& window) {
+bool QtPlatform::show_changes(Window& window) {
   WindowView* view = view_of(window);
-  if (view == nullptr || !window.visible()) return;
-  if (view->sync()) paint_now(*view);
+  if (view == nullptr || !window.visible() || !view->sync()) return false;
+  paint_now(*view);
+  return true;
+}
+
+void QtPlatform::redraw(Window& window) {
+  // A display shows no more than its frames. What comes within one is shown with the next, or when events run again.
+  if (redrawn_ == &window && since_redraw_.elapsed() < frame_ms) return;
+  if (!show_changes(window)) return;
+  redrawn_ = &window;
+  since_redraw_.start();
 }
 
 void QtPlatform::next_frame(Window& window) {
   was_deaf_ = was_deaf_ || !window.Enabled;
-  redraw(window);
+  show_changes(window);
   const qint64 passed = frame_.elapsed();
   if (passed < frame_ms) QThread::msleep(static_cast<unsigned long>(frame_ms - passed));
   frame_.restart();

@@ -105,6 +105,7 @@ class QtPlatform : public QObject, public Platform {
   void open_view(Window& window, bool modal);
   void first_focus(Window& window);
   void activate(Window& window);
+  bool show_changes(Window& window);
   void paint_now(WindowView& view);
   void drop_queued_input();
   QString helper_program(const QString& name) const;
@@ -117,6 +118,8 @@ class QtPlatform : public QObject, public Platform {
   std::mt19937_64 random_;
   QElapsedTimer clock_;
   QElapsedTimer frame_;
+  const Window* redrawn_ = nullptr; ///< The window of the last redraw that showed anything; only compared.
+  QElapsedTimer since_redraw_;
   std::vector<Window*> attached_;
   std::vector<Window*> stack_;
   const Window* active_ = nullptr; ///< The window whose `Activate` ran last, until another one comes over it.

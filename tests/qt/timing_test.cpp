@@ -107,6 +107,25 @@ TEST_F(Timing, RedrawWithNothingNewPaintsNothing) {
   EXPECT_EQ(paints.count, 0);
 }
 
+TEST_F(Timing, RedrawsInAQuickRowPaintOnceAFrameAndTheLastStateIsSeen) {
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  show(window);
+  Paints paints(widget(label));
+  constexpr int redraws = 2000;
+  const std::int64_t start = machine->now();
+  for (int i = 1; i <= redraws; ++i) {
+    label.Caption = to_text(i);
+    machine->redraw(window);
+  }
+  const std::int64_t frames = (machine->now() - start) / 16 + 1;
+  EXPECT_GE(paints.count, 1);
+  EXPECT_LE(paints.count, frames);
+  const int before = paints.count;
+  machine->sync_all();
+  EXPECT_TRUE(wait_for([&] { return paints.count > before; }));
+}
+
 TEST_F(Timing, RedrawOfAWindowThatIsNotShownIsNothing) {
   NotingWindow window(*machine);
   machine->redraw(window);
