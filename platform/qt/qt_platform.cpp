@@ -306,6 +306,7 @@ void QtPlatform::show(Window& window) {
 void QtPlatform::hide(Window& window) {
   window.set_visible(false);
   if (active_ == &window) active_ = nullptr;
+  if (redrawn_ == &window) redrawn_ = nullptr;
   if (WindowView* view = view_of(window)) view->hide();
   leave_finished_loops();
   if (std::erase(stack_, &window) == 0) return;

@@ -118,7 +118,7 @@ class QtPlatform : public QObject, public Platform {
   std::mt19937_64 random_;
   QElapsedTimer clock_;
   QElapsedTimer frame_;
-  const Window* redrawn_ = nullptr; ///< The window of the last redraw that showed anything; only compared.
+  const Window* redrawn_ = nullptr; ///< The window of the last redraw that showed anything, while it is shown.
   QElapsedTimer since_redraw_;
   std::vector<Window*> attached_;
   std::vector<Window*> stack_;

@@ -3,8 +3,6 @@
 
 #include <QColor>
 
-class QApplication;
-
 namespace cserko::theme {
 
 inline constexpr QColor paper(255, 248, 231);

@@ -29,13 +29,9 @@ class BuiltPackTest : public SuiteTest {
     for (const fs::path& path : paths) {
       Text name = path.lexically_relative(pack).generic_u16string();
       std::replace(name.begin(), name.end(), u'/', u'\\');
-      put_app_file(name, test::bytes_of(path));
+      machine.files().put(Text(HeadlessPlatform::folder) + name, test::bytes_of(path));
     }
     assemble();
-  }
-  using SuiteTest::put_app_file;
-  void put_app_file(const Text& name, const std::string& bytes) {
-    machine.files().put(Text(HeadlessPlatform::folder) + name, bytes);
   }
   void load_records() { session().képek.load(machine.files(), session().alapkönyvtár); }
   int last() const { return static_cast<int>(test::names_in("kepek", ".wms").size()) - 1; }
