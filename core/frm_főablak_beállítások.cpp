@@ -5,9 +5,8 @@ namespace cserko {
 namespace {
 
 // The older store has its own order of lines.
-template<class Settings> auto order_fields(Settings& settings) {
-  return std::vector<SettingsField>{const_cast<CheckBox*>(&settings.rajz),
-                                    const_cast<CheckBox*>(&settings.Chkcserkózás)};
+SettingsFields order_fields(frm_főablak_beállítások& settings) {
+  return SettingsFields({&settings.rajz, &settings.Chkcserkózás});
 }
 
 } // namespace
@@ -15,8 +14,8 @@ template<class Settings> auto order_fields(Settings& settings) {
 frm_főablak_beállítások::frm_főablak_beállítások(Session& session)
     : SettingsDialog(session, u"frm_főablak_beállítások", {4680, 2880}, u"Főablak beállításai", u"főablak.ini") {
   set_fields({&chk_grafikus_főablak, &Chkcserkózás, &rajz});
-  OKButton.Default = true;
-  OKButton.Click = [this] { accept(); };
+  set_buttons(OKButton);
+  keep_button_fonts();
 }
 
 void frm_főablak_beállítások::Load() {
@@ -28,12 +27,11 @@ void frm_főablak_beállítások::Load() {
 void frm_főablak_beállítások::apply() { write_order_file(*this); }
 
 void read_order_file(frm_főablak_beállítások& settings) {
-  if (const auto bytes = settings.platform().files().read(Text(order_file)))
-    read_fields(order_fields(settings), *bytes);
+  if (const auto bytes = settings.platform().files().read(Text(order_file))) order_fields(settings).read(*bytes);
 }
 
-void write_order_file(const frm_főablak_beállítások& settings) {
-  write_settings(settings.platform(), Text(order_file), write_fields(order_fields(settings)));
+void write_order_file(frm_főablak_beállítások& settings) {
+  write_settings(settings.platform(), Text(order_file), order_fields(settings).written());
 }
 
 } // namespace cserko

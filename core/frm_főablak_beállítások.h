@@ -28,6 +28,6 @@ inline constexpr TextView order_file = u"c:\\pomzu\\cserk.pmz";
 /// Reads `rajz` and `Chkcserkózás` from the older store, with all errors ignored.
 void read_order_file(frm_főablak_beállítások& settings);
 /// Writes the two options into the older store.
-void write_order_file(const frm_főablak_beállítások& settings);
+void write_order_file(frm_főablak_beállítások& settings);
 
 } // namespace cserko

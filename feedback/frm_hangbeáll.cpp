@@ -2,7 +2,6 @@
 
 #include "core/codepage.h"
 #include "core/frame.h"
-#include "core/settings.h"
 #include "feedback/sounds.h"
 
 namespace cserko {
@@ -45,9 +44,10 @@ void frm_hangbeáll::bind(const SoundList& sounds) {
 
 Text frm_hangbeáll::sound_folder() const { return session_.alapkönyvtár + u"hangok\\"; }
 
-std::array<CheckBox*, 5> frm_hangbeáll::boxes() {
-  return {&chk_hang_a_gratulálópanelen, &chk_hang_a_feladatokban_helyes, &chk_hang_a_feladatokban_hiba,
-          &chk_hangjelzés_segítségkérés, &chk_hang_a_főablakban};
+SettingsFields frm_hangbeáll::fields_before(const SoundList& sounds) {
+  if (&sounds.list != &lst_gratulahang) return {};
+  return SettingsFields({&chk_hang_a_gratulálópanelen, &chk_hang_a_feladatokban_helyes, &chk_hang_a_feladatokban_hiba,
+                         &chk_hangjelzés_segítségkérés, &chk_hang_a_főablakban});
 }
 
 void frm_hangbeáll::Load() {
@@ -120,13 +120,7 @@ void frm_hangbeáll::read_files() {
     const auto bytes = platform().files().read(session_.alapkönyvtár + u"cserko\\" + Text(sounds.file));
     if (!bytes) continue;
     LineReader lines(*bytes);
-    if (&sounds.list == &lst_gratulahang) {
-      for (CheckBox* box : boxes()) {
-        if (lines.end()) break;
-        const auto value = number_in(from_cp1250(lines.next()));
-        if (value && *value >= 0 && *value <= 2) box->set_value(*value);
-      }
-    }
+    fields_before(sounds).read(lines);
     read_names(sounds.list, lines);
   }
 }
@@ -134,10 +128,7 @@ void frm_hangbeáll::read_files() {
 void frm_hangbeáll::ok() {
   hang_lejátszás(session_, {});
   for (const SoundList& sounds : lists_) {
-    SettingsWriter content;
-    if (&sounds.list == &lst_gratulahang) {
-      for (const CheckBox* box : boxes()) content.number(box->value());
-    }
+    SettingsWriter content = fields_before(sounds).written();
     for (const Text& name : sounds.list.Items) content.text(name);
     write_file(session_.alapkönyvtár + u"cserko\\" + Text(sounds.file), content);
   }

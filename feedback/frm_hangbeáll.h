@@ -1,7 +1,7 @@
 // The settings of the event sounds. Its lists and check boxes are the live store that the sound procedures read.
 #pragma once
 
-#include "core/session.h"
+#include "core/settings.h"
 
 #include <array>
 
@@ -77,13 +77,14 @@ class frm_hangbeáll : public Window {
   void delete_selected_file();
   void play(const Text& name);
   void read_files();
-  void read_names(ListBox& list, class LineReader& lines);
-  void write_file(const Text& path, const class SettingsWriter& content);
+  void read_names(ListBox& list, LineReader& lines);
+  void write_file(const Text& path, const SettingsWriter& content);
   void refresh_labels();
   void refresh_buttons();
   void ok();
   void mégsem();
-  std::array<CheckBox*, 5> boxes();
+  /// What stands in the file of a list before its entries: the check boxes, in that of the first one.
+  SettingsFields fields_before(const SoundList& sounds);
   Text sound_folder() const;
 
   Session& session_;

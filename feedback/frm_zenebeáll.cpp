@@ -3,7 +3,6 @@
 #include "core/codepage.h"
 #include "core/frame.h"
 #include "core/frm_referencia.h"
-#include "core/settings.h"
 #include "feedback/sounds.h"
 
 namespace cserko {
@@ -120,17 +119,14 @@ void frm_zenebeáll::read_file() {
   const auto bytes = files.read(files.exists(own) ? own : session_.alapkönyvtár + u"cserko\\" + Text(file_name));
   if (!bytes) return;
   LineReader lines(*bytes);
-  if (lines.end()) return;
-  const auto allowed = number_in(from_cp1250(lines.next()));
-  if (allowed && *allowed >= 0 && *allowed <= 2) chk_zene_enged.set_value(*allowed);
+  fields_before_list().read(lines);
   while (!lines.end()) {
     if (const Text name = from_cp1250(lines.next()); !name.empty()) list_playlist.Items.push_back(name);
   }
 }
 
 void frm_zenebeáll::ok() {
-  SettingsWriter content;
-  content.number(chk_zene_enged.value());
+  SettingsWriter content = fields_before_list().written();
   for (const Text& name : list_playlist.Items) content.text(name);
   write_settings(platform(), Text(fixed_root) + Text(file_name), content);
   zene_lejátszás(session_, {});

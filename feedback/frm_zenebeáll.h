@@ -2,7 +2,7 @@
 // store that the player reads, and selecting an entry is what plays it.
 #pragma once
 
-#include "core/session.h"
+#include "core/settings.h"
 #include "platform/element_array.h"
 
 namespace cserko {
@@ -37,6 +37,7 @@ class frm_zenebeáll : public Window {
   void törl();
   void áthelyez(int index);
   void read_file();
+  SettingsFields fields_before_list() { return SettingsFields({&chk_zene_enged}); }
   void ok();
   void mégsem();
   void refresh_buttons();

@@ -62,15 +62,6 @@ void frm_képmem_beáll::bind() {
   optnyelv.Click = [this](int) { Chk_szótagolva.Enabled = !english(); };
 }
 
-void frm_képmem_beáll::Load() {
-  SettingsDialog::Load();
-  udvárid.show_value();
-  udbetszám.show_value();
-  count_words();
-  HScroll_anim_finomság.Change();
-  gombok_illesztése(*this);
-}
-
 std::optional<Text> frm_képmem_beáll::file_to_read() const {
   return SettingsDialog::file_to_read() ? std::optional(factory_file()) : std::nullopt;
 }

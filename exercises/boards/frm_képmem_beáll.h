@@ -51,8 +51,6 @@ class frm_képmem_beáll : public SettingsDialog {
   bool english() const { return optnyelv[4].value(); }
   bool with_words() const { return párbeállítás[1].value(); }
 
-  void Load() override;
-
  protected:
   void apply() override;
   /// Where either file exists, the factory's is opened, whatever the user has stored: that asymmetry is intended.

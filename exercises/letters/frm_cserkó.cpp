@@ -34,6 +34,7 @@ frm_cserkó_beáll::frm_cserkó_beáll(Session& session)
               &chk_szórendezés_engedélyezés, &Chk_betűfelfed});
   set_buttons(OKButton, CancelButton);
   set_help(cmd_súgó, u"Cserkó - Beállítási lehetőségek.mht");
+  keep_button_fonts();
 }
 
 void frm_cserkó_beáll::apply() { session().window<frm_cserkó>().beáll(); }

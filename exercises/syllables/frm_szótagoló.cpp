@@ -32,11 +32,6 @@ dlg_szótagoló::dlg_szótagoló(Session& session)
   set_help(cmd_súgó, u"szótagoló - beállítások.mht");
 }
 
-void dlg_szótagoló::Load() {
-  SettingsDialog::Load();
-  gombok_illesztése(*this);
-}
-
 bool dlg_szótagoló::allows(int syllables) const {
   return syllables <= udszótagszám.value() && (syllables >= 2 || !chk_egyszótagúak_kizárva.ticked());
 }

@@ -22,7 +22,6 @@ class dlg_szótagoló : public SettingsDialog {
   Button CancelButton{*this, u"CancelButton", {1960, 1740, 1720, 660}, u"Mégsem"};
   Button cmd_súgó{*this, u"cmd_súgó", {3800, 1740, 1720, 660}, u"Súgó"};
 
-  void Load() override;
   /// Whether a word of that many syllables is asked for.
   bool allows(int syllables) const;
 

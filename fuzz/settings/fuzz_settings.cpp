@@ -101,16 +101,16 @@ struct Controls : Window {
   OptionButton first{*this, u"first", {}, u"", true};
   OptionButton second{*this, u"second", {}, u""};
   CheckBox box{*this, u"box", {}, u""};
-  std::vector<SettingsField> fields{&updown, &first, &second, &box};
+  SettingsFields fields{{&updown, &first, &second, &box}};
 };
 
 void check_fields(HeadlessPlatform& machine, std::string_view bytes) {
   Controls read(machine);
-  read_fields(read.fields, bytes);
+  read.fields.read(bytes);
   const State state = state_of(read);
   require(!(read.first.value() && read.second.value()));
   Controls again(machine);
-  read_fields(again.fields, write_fields(read.fields).bytes());
+  again.fields.read(read.fields.written().bytes());
   require(state_of(again) == state);
 }
 

@@ -273,6 +273,20 @@ TEST_F(MemorySettingsTest, CancelReadsTheFactoryFileAgain) {
   EXPECT_EQ(window.kép[0].Tag, tag) << "the board stays";
 }
 
+TEST_F(MemorySettingsTest, CancelBringsBackMorePairsThanTheChangedLetterLimitAllows) {
+  put_app_file(factory, u" 18 \r\n 8 \r\n 3 \r\n 13 \r\n");
+  auto& window = game();
+  ASSERT_EQ(dialog().szópárszám.value(), 18);
+  in_dialog(window, [](frm_képmem_beáll& d) {
+    while (d.szópárszám.Max == 18) hand::step(d.udbetszám, -1);
+    EXPECT_LT(d.szópárszám.value(), 18);
+    hand::click(d.cmd_mégsem);
+  });
+  EXPECT_EQ(dialog().udbetszám.value(), 13);
+  EXPECT_EQ(dialog().szópárszám.value(), 18);
+  EXPECT_EQ(dialog().szópárszám.Max, 18);
+}
+
 TEST_F(MemorySettingsTest, WithoutAFactoryFileCancelledChangesStay) {
   put_settings(file_name, {u" 6 "});
   auto& window = game();
