@@ -73,6 +73,8 @@ void ExerciseWindow::Activate() {
 }
 
 void ExerciseWindow::KeyDown(KeyEvent& event) {
+  // With Ctrl an arrow belongs to the control that has the focus.
+  if (event.shift == shift::control) return;
   const Point direction = direction_of(event.code);
   if (direction == Point{}) return;
   if (Element* element = nearest(*this, direction)) set_focus(element);

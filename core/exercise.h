@@ -10,7 +10,7 @@ class ExerciseWindow : public Window {
  public:
   void Activate() override;
   /// Arrow keys move the focus to the nearest control in that direction, so that every exercise can be played without
-  /// a mouse.
+  /// a mouse; with Ctrl they are left to the control.
   void KeyDown(KeyEvent& event) override;
 
  protected:

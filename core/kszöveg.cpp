@@ -15,11 +15,51 @@ constexpr std::array<TextView, 17> toldalék{u"dzs", u"ccs", u"ddz", u"ggy", u"l
 constexpr std::array<char16_t, 14> vowels{u'a', u'á', u'e', u'é', u'i', u'í', u'o',
                                           u'ó', u'ö', u'ő', u'u', u'ú', u'ü', u'ű'};
 
-// The letter of several characters at the start of a lower-cased text, empty if there is none.
-TextView long_letter_at_start(TextView text) {
-  const auto found =
-      std::find_if(toldalék.begin(), toldalék.end(), [text](TextView letter) { return text.starts_with(letter); });
-  return found == toldalék.end() ? TextView() : *found;
+// In these compounds letters of two words meet at the seam and would be read as one. Two of them keep the case of the
+// text and two are always written in lower case, which is intended.
+struct Exception {
+  TextView word;
+  std::array<std::uint8_t, 12> lengths; ///< Characters of each letter, 0 behind the last.
+  bool keeps_case;
+};
+constexpr std::array<Exception, 4> exceptions{{{u"rajzszög", {1, 1, 1, 1, 2, 1, 1}, true},
+                                               {u"karosszék", {1, 1, 1, 1, 1, 2, 1, 1}, false},
+                                               {u"magánnyomozó", {1, 1, 1, 1, 1, 2, 1, 1, 1, 1, 1}, false},
+                                               {u"rajzszeg", {1, 1, 1, 1, 2, 1, 1}, true}}};
+
+const Exception* exception_for(TextView text) {
+  const auto found = std::find_if(exceptions.begin(), exceptions.end(), [text](const Exception& exception) {
+    return exception.word.size() == text.size() && equal_ignoring_case(exception.word, text);
+  });
+  return found == exceptions.end() ? nullptr : &*found;
+}
+
+// Length of the letter at the start of a text that is not empty.
+std::size_t letter_length(TextView text) {
+  const char16_t first = lower_case(text.front());
+  for (const TextView letter : toldalék) {
+    if (letter.front() == first && letter.size() <= text.size() &&
+        equal_ignoring_case(letter, text.substr(0, letter.size())))
+      return letter.size();
+  }
+  return 1;
+}
+
+// Gives each Hungarian letter of the text to the function, without making texts of them.
+template<class Take> void each_letter(TextView text, Take take) {
+  if (const Exception* exception = exception_for(text); exception != nullptr) {
+    TextView rest = exception->keeps_case ? text : exception->word;
+    for (auto length = exception->lengths.begin(); !rest.empty(); ++length) {
+      take(rest.substr(0, *length));
+      rest.remove_prefix(*length);
+    }
+    return;
+  }
+  while (!text.empty()) {
+    const std::size_t length = letter_length(text);
+    take(text.substr(0, length));
+    text.remove_prefix(length);
+  }
 }
 
 int limited(int n, int length) { return n > 0 && n > length ? length : n; }
@@ -38,40 +78,26 @@ void kszöveg::felbontás() {
     for (const char16_t character : szöveg_) betűk_[static_cast<std::size_t>(betűszám_++)] = character;
     return;
   }
-  if (!cut_exception()) cut_letters();
+  each_letter(szöveg_, [this](TextView letter) { betűk_[static_cast<std::size_t>(betűszám_++)] = letter; });
 }
 
-// In these compounds letters of two words meet at the seam and would be read as one. Two of them keep the case of the
-// text and two are always written in lower case, which is intended.
-bool kszöveg::cut_exception() {
-  if (szöveg_.size() < 8 || szöveg_.size() > 12) return false;
-  const Text lower = lower_case(szöveg_);
-  if (lower == u"rajzszög" || lower == u"rajzszeg") {
-    const Text& s = szöveg_;
-    set_letters({s.substr(0, 1), s.substr(1, 1), s.substr(2, 1), s.substr(3, 1), s.substr(4, 2), s.substr(6, 1),
-                 s.substr(7, 1)});
-  } else if (lower == u"karosszék") {
-    set_letters({u"k", u"a", u"r", u"o", u"s", u"sz", u"é", u"k"});
-  } else if (lower == u"magánnyomozó") {
-    set_letters({u"m", u"a", u"g", u"á", u"n", u"ny", u"o", u"m", u"o", u"z", u"ó"});
-  } else {
-    return false;
-  }
-  return true;
+int kszöveg::letter_count(TextView text) {
+  int letters = 0;
+  each_letter(text, [&letters](TextView) { ++letters; });
+  return letters;
 }
 
-void kszöveg::cut_letters() {
-  const Text lower = lower_case(szöveg_);
-  for (std::size_t at = 0; at < szöveg_.size();) {
-    const std::size_t length = std::max<std::size_t>(1, long_letter_at_start(TextView(lower).substr(at)).size());
-    betűk_[static_cast<std::size_t>(betűszám_++)] = szöveg_.substr(at, length);
-    at += length;
-  }
+Text kszöveg::letter_list(TextView text) {
+  Text list = u",";
+  list.reserve(2 * text.size() + 1);
+  each_letter(text, [&list](TextView letter) { list.append(letter).push_back(u','); });
+  return list;
 }
 
-void kszöveg::set_letters(const std::vector<Text>& letters) {
-  std::copy(letters.begin(), letters.end(), betűk_.begin());
-  betűszám_ = static_cast<int>(letters.size());
+bool kszöveg::in_list(TextView list, TextView letter) {
+  Text sought = u",";
+  sought.append(letter).push_back(u',');
+  return list.find(sought) != TextView::npos;
 }
 
 Text kszöveg::jobbrólvágott(int& n) const {
@@ -170,9 +196,7 @@ Text kszöveg::VesszősSzöveg() const {
   return list;
 }
 
-bool kszöveg::vanebenne(TextView sought) const {
-  return VesszősSzöveg().find(u"," + Text(sought) + u",") != Text::npos;
-}
+bool kszöveg::vanebenne(TextView sought) const { return in_list(VesszősSzöveg(), sought); }
 
 Text kszöveg::Névelővel(bool capital) const {
   const bool vowel = EzabetűMagánhangzóE(1);

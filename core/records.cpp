@@ -1,8 +1,7 @@
 #include "core/records.h"
 
 #include "core/codepage.h"
-#include "core/nothing_fits.h"
-#include "core/numbers.h"
+#include "core/kszöveg.h"
 
 #include <algorithm>
 #include <limits>
@@ -12,9 +11,6 @@ namespace cserko {
 namespace {
 
 constexpr int largest_index = std::numeric_limits<std::int16_t>::max();
-
-// After so many draws without success the candidates are looked through once.
-constexpr int fruitless_draws = 200;
 
 Text field(std::string_view line) { return from_cp1250(line.substr(0, Records::longest_field)); }
 
@@ -31,6 +27,7 @@ void Records::load(const Files& files, const Text& application_folder, const std
   left_out_ = std::max(0, count - 1 - last);
   képszám = static_cast<std::int16_t>(last);
   records_.assign(static_cast<std::size_t>(last) + 1, {});
+  cuts_ = {};
 
   const std::vector<Text> names = files.list(pattern);
   for (int i = 0; i <= last; ++i) {
@@ -68,18 +65,44 @@ int Records::szótagszám(int index) const {
   return 1 + static_cast<int>(std::count(syllables.begin(), syllables.end(), u'-'));
 }
 
-int Records::draw(Platform& platform, const Filter& passes, TextView advice, Reach reach) const {
-  const bool with_last = reach == Reach::WithLast;
-  for (int fruitless = 0;; ++fruitless) {
-    if (fruitless == fruitless_draws) {
-      int candidate = 0;
-      const int end = with_last ? képszám + 1 : képszám;
-      while (!passes(candidate)) {
-        if (++candidate >= end) throw NothingFits(advice);
-      }
-    }
-    const int index = with_last ? rounded(platform.random() * képszám) : random_below(platform, képszám);
-    if (passes(index)) return index;
+const Text& Records::word(int index, WordForm form) const {
+  const KépAdat& record = (*this)[index];
+  if (form == WordForm::Angol) return record.angol;
+  return form == WordForm::Szótagolt ? record.szótagolt : record.név;
+}
+
+Records::Cut& Records::cut(int index, WordForm form) const {
+  std::vector<Cut>& cuts = cuts_.at(static_cast<std::size_t>(form));
+  if (cuts.empty()) cuts.resize(records_.size());
+  return cuts.at(static_cast<std::size_t>(index));
+}
+
+int Records::MAGYARBETŰKSZÁMA(int index, WordForm form) const {
+  const Text& text = word(index, form);
+  Cut& kept = cut(index, form);
+  if (kept.count < 0) kept.count = static_cast<std::int16_t>(kszöveg::letter_count(text));
+  return kept.count;
+}
+
+bool Records::vanebenne(int index, TextView letter, WordForm form) const {
+  const Text& text = word(index, form);
+  Cut& kept = cut(index, form);
+  if (kept.list.empty()) kept.list = kszöveg::letter_list(text);
+  return kszöveg::in_list(kept.list, letter);
+}
+
+int Records::word_length(int index, bool english) const {
+  return english ? static_cast<int>((*this)[index].angol.size()) : MAGYARBETŰKSZÁMA(index);
+}
+
+int Records::draw(Platform& platform, const Passes& passes, TextView advice, Reach reach) const {
+  switch (reach) {
+  case Reach::WithLast:
+    return draw_rounded(platform, képszám, passes, advice);
+  case Reach::All:
+    return draw_below(platform, képszám + 1, passes, advice);
+  default:
+    return draw_below(platform, képszám, passes, advice);
   }
 }
 

@@ -1,8 +1,9 @@
 // The picture-word records that all exercises draw on: read once at the start, then only looked at.
 #pragma once
 
-#include "platform/platform.h"
+#include "core/draw.h"
 
+#include <array>
 #include <cstdint>
 
 namespace cserko {
@@ -19,14 +20,31 @@ struct KépAdat {
   Text hamis;        ///< A false statement.
 };
 
+/// Which word of a record an exercise shows.
+enum class WordForm : std::uint8_t { Név, Szótagolt, Angol };
+
+/// The form for an exercise with a choice of language and of syllables: in English there are none.
+constexpr WordForm word_form(bool english, bool syllables) {
+  if (english) return WordForm::Angol;
+  return syllables ? WordForm::Szótagolt : WordForm::Név;
+}
+
+/// All records and their words.
+///
+/// What an exercise asks of words while it draws, it asks here and not of a `kszöveg` of its own: a draw may look at
+/// many thousand words. Letters are counted when they are first asked for and kept. A draw of a word reads, for
+/// example,
+///
+///     const int most = settings().udbetszám.value();
+///     képek().draw(platform(), [&](int index) { return képek().MAGYARBETŰKSZÁMA(index) <= most; }, advice);
 class Records {
  public:
-  /// How a draw makes an index of a random number: cut off, so that the last record is never drawn, or rounded, so that
-  /// it is, and both ends have half the chance.
-  enum class Reach : std::uint8_t { WithoutLast, WithLast };
-
-  /// What `draw` asks of a record, by its index.
-  using Filter = std::function<bool(int index)>;
+  /// How a draw makes an index of a random number.
+  enum class Reach : std::uint8_t {
+    WithoutLast, ///< The whole part of (random × `képszám`): the last record is never drawn.
+    WithLast,    ///< (random × `képszám`) rounded: it is, and both ends have half the chance.
+    All          ///< The whole part of (random × (`képszám` + 1)): all have the same chance.
+  };
 
   /// A field of a file is cut off behind so many characters; no sentence that fits a screen is as long.
   static constexpr std::size_t longest_field = 4096;
@@ -49,10 +67,18 @@ class Records {
   /// no record.
   int szótagszám(int index) const;
 
+  /// The record's word in that form. Throws std::out_of_range for an index of no record, as all of these do.
+  const Text& word(int index, WordForm form) const;
+  /// Number of Hungarian letters of that word; the hyphens between syllables count.
+  int MAGYARBETŰKSZÁMA(int index, WordForm form = WordForm::Név) const;
+  /// Whether that word has the letter; "s" is not found in a word that only has "sz".
+  bool vanebenne(int index, TextView letter, WordForm form = WordForm::Név) const;
+  /// The length that limits in settings speak of: the letters of the Hungarian name, the characters of the English one.
+  int word_length(int index, bool english) const;
+
   /// Draws indexes until one passes: each draw takes one random number, and the last record is not drawn unless asked
-  /// for, which is intended. Throws NothingFits with the advice (a Hungarian sentence) if no record can pass. The
-  /// filter must give the same answer for the same index as long as the draw lasts.
-  int draw(Platform& platform, const Filter& passes, TextView advice = general_advice,
+  /// for, which is intended. Throws NothingFits with the advice (a Hungarian sentence) if no record can pass.
+  int draw(Platform& platform, const Passes& passes, TextView advice = general_advice,
            Reach reach = Reach::WithoutLast) const;
 
   static constexpr TextView general_advice =
@@ -61,7 +87,15 @@ class Records {
  private:
   void read_fields(const Files& files, KépAdat& record) const;
 
+  /// What has been found out about the letters of a word.
+  struct Cut {
+    std::int16_t count = -1; ///< -1: not counted yet.
+    Text list;               ///< The letters between commas, empty until asked for.
+  };
+  Cut& cut(int index, WordForm form) const;
+
   std::vector<KépAdat> records_{1};
+  mutable std::array<std::vector<Cut>, 3> cuts_; ///< By form; as many as records once one of them is asked for.
   int left_out_ = 0;
 };
 

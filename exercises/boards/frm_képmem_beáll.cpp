@@ -1,7 +1,6 @@
 #include "exercises/boards/frm_képmem_beáll.h"
 
 #include "core/frame.h"
-#include "core/kszöveg.h"
 #include "exercises/boards/frm_képmemória.h"
 
 #include <algorithm>
@@ -74,12 +73,12 @@ void frm_képmem_beáll::show_help_options() {
 
 int frm_képmem_beáll::fitting_words() const {
   const Records& records = session().képek;
+  const WordForm form = word_form(english(), false);
   std::unordered_set<Text> seen;
   int count = 0;
   for (int i = 0; i <= records.képszám && count < szópárszám_limit; ++i) {
-    const Text& word = english() ? records[i].angol : records[i].név;
-    if (!seen.insert(word).second) continue;
-    if (kszöveg(word).MAGYARBETŰKSZÁMA() <= udbetszám.value()) ++count;
+    if (!seen.insert(records.word(i, form)).second) continue;
+    if (records.MAGYARBETŰKSZÁMA(i, form) <= udbetszám.value()) ++count;
   }
   return count;
 }

@@ -1,6 +1,5 @@
 #include "exercises/boards/frm_képmemória.h"
 
-#include "core/kszöveg.h"
 #include "core/numbers.h"
 #include "core/settings.h"
 #include "feedback/frm_gratuláció.h"
@@ -105,20 +104,17 @@ void frm_képmemória::lay_out_cards() {
   }
 }
 
-Text frm_képmemória::képnévnyelv(int index) const {
-  const KépAdat& record = képek()[index];
-  if (settings().english()) return record.angol;
-  return settings().Chk_szótagolva.ticked() ? record.szótagolt : record.név;
+WordForm frm_képmemória::form() const {
+  const frm_képmem_beáll& wanted = settings();
+  return word_form(wanted.english(), wanted.Chk_szótagolva.ticked());
 }
 
-bool frm_képmemória::has_word(int index) const {
-  const KépAdat& record = képek()[index];
-  return !(settings().english() ? record.angol : record.név).empty();
-}
+Text frm_képmemória::képnévnyelv(int index) const { return képek().word(index, form()); }
 
 int frm_képmemória::KépFileNév() {
+  const WordForm name = word_form(settings().english(), false);
   return képek().draw(
-      platform(), [this](int index) { return has_word(index); }, advice, Records::Reach::WithLast);
+      platform(), [&](int index) { return !képek().word(index, name).empty(); }, advice, Records::Reach::WithLast);
 }
 
 int frm_képmemória::képszámlálás() const {
@@ -154,25 +150,25 @@ void frm_képmemória::show_back(int index) {
 
 int frm_képmemória::free_place() {
   // Rounded, so that the first and the last place have half the chance. That is intended.
-  int place = 0;
-  do {
-    place = rounded(platform().random() * (places - 1));
-  } while (!kép[place].Tag.empty());
-  return place;
+  return draw_rounded(
+      platform(), places - 1, [this](int place) { return kép[place].Tag.empty(); }, advice);
 }
 
 int frm_képmemória::draw_record(const std::set<Text>& used) {
   const int top = settings().udbetszám.value();
   const int limit = top == frm_képmem_beáll::no_limit ? 100 : top;
   teszt.Font.size = settings().udbetűméret.value();
+  const WordForm form = this->form();
+  const WordForm name = word_form(settings().english(), false);
   const auto fits = [&](int index) {
-    const Text word = képnévnyelv(index);
-    if (word.empty() || used.count(word) != 0 || kszöveg(word).MAGYARBETŰKSZÁMA() > limit) return false;
+    const Text& word = képek().word(index, form);
+    if (képek().word(index, name).empty() || word.empty() || képek().MAGYARBETŰKSZÁMA(index, form) > limit ||
+        used.count(word) != 0)
+      return false;
     return platform().measure(teszt.Font, word).width <= kép[0].Width &&
            platform().load_picture(képek()[index].wmf) != nullptr;
   };
-  return képek().draw(
-      platform(), [&](int index) { return has_word(index) && fits(index); }, advice, Records::Reach::WithLast);
+  return képek().draw(platform(), fits, advice, Records::Reach::WithLast);
 }
 
 void frm_képmemória::place_pair(std::set<Text>& used) {

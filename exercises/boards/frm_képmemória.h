@@ -60,7 +60,7 @@ class frm_képmemória : public ExerciseWindow {
   void lay_out_cards();
   void clear_board();
   int free_place();
-  bool has_word(int index) const;
+  WordForm form() const;
   int draw_record(const std::set<Text>& used);
   void place_pair(std::set<Text>& used);
 

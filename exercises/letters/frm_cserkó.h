@@ -4,6 +4,7 @@
 
 #include "core/exercise.h"
 #include "core/settings.h"
+#include "exercises/shared/scattered_pieces.h"
 #include "platform/element_array.h"
 
 namespace cserko {
@@ -88,44 +89,28 @@ class frm_cserkó : public ExerciseWindow {
   void szóválasztás();
   void betűk_szétszórása(const Text& word);
   void újrakeverés();
-  void scatter(int letters, double right_margin);
   void rendezés();
-  bool átfedés(int letter, double x, double y) const;
-  void kijelölés_törlése();
-  void kijelölés(int letter);
-  void következő_betű();
-  void move_selected(int code);
   void felfed();
   void kész();
   void solved();
   Answer kirakott_szó_vizsgálata();
   void show_message(const Text& text);
 
-  void letter_pressed(int letter, const MouseEvent& event);
-  void letter_moved(const MouseEvent& event);
-  void letter_released(int letter, const MouseEvent& event);
   void frame_pressed(const MouseEvent& event);
-  void put_down(const MouseEvent& event);
   void task_pressed(const MouseEvent& event);
-  void place_in_frame(Label& letter, double left, double top);
   double text_width(TextView text) const;
-
-  /// The letters from left to right by the given position, ties by the outcome of the exchange sort.
-  enum class By : std::uint8_t { ExactLeft, RoundedLeft };
-  std::vector<int> letters_by_left(By by) const;
 
   frm_cserkó_beáll& settings() const { return session().window<frm_cserkó_beáll>(); }
   const KépAdat& record() const { return képek()[feladat_index_]; }
 
+  ScatteredPieces letters_{session(),
+                           kép,
+                           betű,
+                           {.advice = u"Nem férnek el a betűk a keretben.\r\nKérlek, válassz a beállításokban rövidebb "
+                                      u"szavakat!",
+                            .whole_twips = true}};
   int feladat_index_ = 0;
   Text kirakott_szó_;
-  int lépésköz_ = 0;                 ///< Twips that an arrow key moves a letter.
-  std::optional<int> kijelölt_betű_; ///< The letter that the arrow keys move.
-  std::optional<int> dragged_;       ///< The letter that the mouse holds.
-  bool moved_ = false;               ///< The held letter has moved since it was pressed.
-  bool picked_up_ = false;           ///< The selected letter was picked up by a click and follows the next one.
-  int fogáspont_x_ = 0;
-  int fogáspont_y_ = 0;
   int felfedett_betűk_ = 0;
 };
 

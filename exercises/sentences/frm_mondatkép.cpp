@@ -9,6 +9,7 @@ namespace cserko {
 namespace {
 
 constexpr TextView empty_place = u"-1";
+constexpr TextView advice = u"Nincs elég olyan kép, amelyikhez meghatározás tartozik.";
 
 } // namespace
 
@@ -57,7 +58,7 @@ int frm_mondatkép::szóválasztás() {
       [this](int index) {
         return index != aktuális_kép_ && !shown_in_ring(index) && !képek()[index].meghatározás.empty();
       },
-      u"Nincs elég olyan kép, amelyikhez meghatározás tartozik.");
+      advice);
 }
 
 bool frm_mondatkép::shown_in_ring(int record) const {
@@ -78,10 +79,8 @@ void frm_mondatkép::feladat_kirakása() {
   const int places = pic_feladványkép.count();
   place(random_below(platform(), places), aktuális_kép_);
   for (int filled = 1; filled < places; ++filled) {
-    int free_place = 0;
-    do {
-      free_place = random_below(platform(), places);
-    } while (pic_feladványkép[free_place].Tag != empty_place);
+    const int free_place = draw_below(
+        platform(), places, [this](int at) { return pic_feladványkép[at].Tag == empty_place; }, advice);
     place(free_place, szóválasztás());
   }
 }

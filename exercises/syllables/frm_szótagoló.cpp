@@ -1,23 +1,13 @@
 #include "exercises/syllables/frm_szótagoló.h"
 
-#include "core/kszöveg.h"
 #include "core/numbers.h"
 #include "feedback/sounds.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
 
 namespace cserko {
 
 namespace {
-
-// Written short inside a word and doubled when a syllable ends in them: "asszony" is "asz-szony".
-constexpr std::array<TextView, 7> long_double_consonants{u"ccs", u"ggy", u"lly", u"nny", u"ssz", u"tty", u"zzs"};
-
-// Tags of the letters.
-constexpr TextView ordinary = u"0";
-constexpr TextView second_half = u"3";
 
 constexpr double space_under_picture = 20; // twips
 
@@ -43,17 +33,9 @@ frm_szótagoló::frm_szótagoló(Session& session)
       results_(session, pic_eredmény, lbl_eredmény, ResultPanel::Fit::OneLine) {
   kép.TabStop = false;
   kép.Border = true;
-  betű[0].WordWrap = false;
-  betű[0].Choosable = true;
   pic_eredmény.design_places({{6960, 720}, {9000, 720}, {6960, 3000}, {9000, 3000}, {6960, 5280}, {9000, 5280}});
   lbl_eredmény.design_places({{6960, 2640}, {9000, 2640}, {6960, 4920}, {9000, 4920}, {6960, 7200}, {9000, 7200}});
-  betű.MouseDown = [this](int, const MouseEvent& event) {
-    húzás_kezdete_ = rounded(event.x);
-    pulled_ = false;
-  };
-  betű.MouseUp = [this](int letter, const MouseEvent& event) { letter_released(letter, event); };
-  betű.MouseMove = [this](int letter, const MouseEvent& event) { letter_moved(letter, event.x); };
-  betű.Click = [this](int letter) { letter_clicked(letter); };
+  row_.Pull = [this](int letter, LetterRow::Way way) { return break_changed(letter, way); };
   cmd_kész.Default = true;
   cmd_kész.Click = [this] { kész(); };
   mnu_fájl_beállítások.Click = [this] { platform().show_modal(settings()); };
@@ -78,140 +60,59 @@ void frm_szótagoló::beáll() {
   aktuális_kép_ = szóválasztás();
   show_record_picture(session(), kép, aktuális_kép_);
   szó_kirakása(képek()[aktuális_kép_].név);
-  húzás_kezdete_ = -1;
-  igazítás_alatt_ = false;
 }
 
 void frm_szótagoló::feladat_törlés() {
   clear_picture(kép);
   aktuális_kép_ = -1;
-  betű.unload_from(1);
-  betű[0].Tag = ordinary;
-  betű[0].Visible = false;
+  row_.clear();
 }
 
 int frm_szótagoló::szóválasztás() {
   platform().seed_random();
+  const dlg_szótagoló& wanted = settings();
   // The present record is forgotten already, so the same word may come twice in a row; that is intended.
   return képek().draw(
-      platform(), [this](int index) { return settings().allows(képek().szótagszám(index)) && index != aktuális_kép_; },
+      platform(), [&](int index) { return wanted.allows(képek().szótagszám(index)) && index != aktuális_kép_; },
       u"Nincs olyan szavunk, amelyiknek ennyi szótagja van.\r\nKérlek, engedj meg a beállításokban több szótagot!");
 }
 
 void frm_szótagoló::szó_kirakása(const Text& word) {
   const kszöveg text(word);
-  const int letters = text.MAGYARBETŰKSZÁMA();
-  const Text widest_form = word + Text(static_cast<std::size_t>(std::max(letters - 1, 0)), u'-');
+  const int most_breaks = std::max(text.MAGYARBETŰKSZÁMA() - 1, 0);
   const double gap = cmd_kész.Top - (kép.Top + kép.Height);
-  cserko::Font font = betű[0].Font;
-  font.size = 8;
-  betű[0].Font.size = first_overfilling_size(platform(), font, widest_form, {kép.Width, 0.9 * gap}) - 1;
-  for (int i = 0; i < letters; ++i) {
-    Label& letter = i == 0 ? betű[0] : betű.load(i);
-    letter.Caption = text.szóbetűje(i + 1);
-    letter.Visible = true;
-  }
+  row_.fit(word + Text(static_cast<std::size_t>(most_breaks), u'-'), {kép.Width, 0.9 * gap});
+  row_.show(text);
   // A long double consonant that opens the word stays whole.
-  if (const int position = hosszú_kettős_helye(word); position >= 2) split_long_consonant(position);
+  if (const int position = hosszú_kettős_helye(text); position >= 2) row_.split(position);
   betűk_igazítása();
-}
-
-void frm_szótagoló::split_long_consonant(int position) {
-  const int last = betű.count();
-  betű.load(last).Visible = true;
-  for (int i = last; i >= position; --i) betű[i].Caption = betű[i - 1].Caption;
-  const Text whole = betű[position].Caption;
-  betű[position - 1].Caption = whole.substr(0, 1);
-  betű[position].Caption = whole.substr(whole.size() - 2);
-  betű[position].Tag = second_half;
-}
-
-int frm_szótagoló::hosszú_kettős_helye(const Text& word) const {
-  const kszöveg text(word);
-  for (int i = 1; i <= text.MAGYARBETŰKSZÁMA(); ++i) {
-    const Text letter = text.szóbetűje(int(i));
-    if (std::find(long_double_consonants.begin(), long_double_consonants.end(), letter) != long_double_consonants.end())
-      return i;
-  }
-  return 0;
-}
-
-Text frm_szótagoló::row_text() const {
-  Text joined;
-  betű.each([&](const Label& letter) { joined += letter.Caption; });
-  return joined;
 }
 
 void frm_szótagoló::betűk_igazítása() {
   const int center = rounded(kép.Left + kép.Width / 2);
-  const Size row = platform().measure(betű[0].Font, row_text());
-  double left = center - rounded(row.width) / 2.0;
-  const double top = kép.Top + kép.Height + space_under_picture;
-  betű.each([&](Label& letter) {
-    letter.Font = betű[0].Font;
-    letter.move_to(left, top);
-    const Size extent = platform().measure(letter.Font, letter.Caption);
-    letter.Width = extent.width;
-    letter.Height = extent.height;
-    left += extent.width;
-  });
+  row_.lay_out({center - rounded(row_.text_width()) / 2.0, kép.Top + kép.Height + space_under_picture});
 }
 
-bool frm_szótagoló::break_before(int letter) const { return betű[letter - 1].Caption.ends_with(u'-'); }
-
-void frm_szótagoló::close_break(int letter) {
+bool frm_szótagoló::break_changed(int letter, LetterRow::Way way) {
+  const bool open = way == LetterRow::Way::Right;
+  const bool halved = betű[letter].Tag == LetterRow::second_half;
   Text& before = betű[letter - 1].Caption;
-  before.pop_back();
-  if (betű[letter].Tag == second_half) before = before.substr(0, 1);
-  hang_lejátszás(session(), session().alapkönyvtár + u"cserko\\clack 2.wav");
-  betűk_igazítása();
-}
-
-void frm_szótagoló::open_break(int letter) {
-  Text& before = betű[letter - 1].Caption;
-  if (betű[letter].Tag == second_half) before = betű[letter].Caption;
-  before += u'-';
-  hang_lejátszás(session(), session().alapkönyvtár + u"cserko\\clack 1.wav");
-  betűk_igazítása();
-}
-
-void frm_szótagoló::letter_moved(int letter, double x) {
-  if (igazítás_alatt_ || húzás_kezdete_ == -1) return;
-  if (std::abs(húzás_kezdete_ - x) < betű[letter].Width / 4 || letter == 0) return;
-  pulled_ = true;
-  const bool pushed_left = x < húzás_kezdete_;
-  if (pushed_left != break_before(letter)) return;
-  igazítás_alatt_ = true;
-  if (pushed_left) {
-    close_break(letter);
+  if (before.ends_with(u'-') == open) return false;
+  if (open) {
+    if (halved) before = betű[letter].Caption;
+    before += u'-';
   } else {
-    open_break(letter);
+    before.pop_back();
+    if (halved) before = before.substr(0, 1);
   }
-  igazítás_alatt_ = false;
-}
-
-void frm_szótagoló::letter_released(int letter, const MouseEvent& event) {
-  húzás_kezdete_ = -1;
-  // Only a left release inside the letter is a click as well. No other one may leave a pull behind, which would keep
-  // the next space bar from its effect.
-  const Label& label = betű[letter];
-  const bool inside = event.x >= 0 && event.x < label.Width && event.y >= 0 && event.y < label.Height;
-  if (event.button != MouseButton::Left || !inside) pulled_ = false;
-}
-
-void frm_szótagoló::letter_clicked(int letter) {
-  // The end of a pull is no click. A mere click, or the space bar, opens and closes the break before the letter.
-  if (std::exchange(pulled_, false) || letter == 0) return;
-  if (break_before(letter)) {
-    close_break(letter);
-  } else {
-    open_break(letter);
-  }
+  hang_lejátszás(session(), session().alapkönyvtár + (open ? u"cserko\\clack 1.wav" : u"cserko\\clack 2.wav"));
+  betűk_igazítása();
+  return true;
 }
 
 void frm_szótagoló::kész() {
   if (aktuális_kép_ < 0) return; // no word fitted the settings
-  if (row_text() != képek()[aktuális_kép_].szótagolt) {
+  if (row_.text() != képek()[aktuális_kép_].szótagolt) {
     hiba_hang(session());
     return;
   }

@@ -3,6 +3,7 @@
 
 #include "core/exercise.h"
 #include "core/settings.h"
+#include "exercises/shared/letter_row.h"
 #include "feedback/result_panel.h"
 
 namespace cserko {
@@ -57,26 +58,15 @@ class frm_szótagoló : public ExerciseWindow {
   void feladat_törlés();
   int szóválasztás();
   void szó_kirakása(const Text& word);
-  void split_long_consonant(int position);
-  int hosszú_kettős_helye(const Text& word) const;
   void betűk_igazítása();
-  Text row_text() const;
-
-  void letter_moved(int letter, double x);
-  void letter_released(int letter, const MouseEvent& event);
-  void letter_clicked(int letter);
-  bool break_before(int letter) const;
-  void open_break(int letter);
-  void close_break(int letter);
+  bool break_changed(int letter, LetterRow::Way way);
   void kész();
 
   dlg_szótagoló& settings() const { return session().window<dlg_szótagoló>(); }
 
+  LetterRow row_{betű};
   ResultPanel results_;
   int aktuális_kép_ = -1;
-  int húzás_kezdete_ = -1;      ///< Where the pressed letter was pressed, in its own twips; -1: none is.
-  bool igazítás_alatt_ = false; ///< A break changes and the row is not laid out again yet.
-  bool pulled_ = false;         ///< The press that is on has become a pull, whether or not a break has changed.
 };
 
 } // namespace cserko

@@ -403,6 +403,27 @@ TEST(Article, StandsBeforeTheTextAsItIsNow) {
   EXPECT_EQ(text.Névelővel(false), u"az lma") << "the first letter is still that of before";
 }
 
+// Texts that nobody keeps.
+
+TEST(Passing, SaysTheSameAsTheKeptText) {
+  for (const TextView text :
+       {u"",     u"szó",      u"Szó",       u"asszony",   u"bridzs",    u"edzés",      u"DZSungel",
+        u"ccsz", u"rajzszög", u"RajzSzeg",  u"karosszék", u"KAROSSZÉK", u"karosszéke", u"Magánnyomozó",
+        u"gy",   u"g",        u"asz-szony", u"két szó",   u"a,b",       u"őrség"}) {
+    const kszöveg kept(text);
+    EXPECT_EQ(kszöveg::letter_count(text), kept.MAGYARBETŰKSZÁMA()) << to_utf8(text);
+    EXPECT_EQ(kszöveg::letter_list(text), kept.VesszősSzöveg()) << to_utf8(text);
+  }
+  EXPECT_EQ(kszöveg::letter_count(u"asszony"), 4);
+  EXPECT_EQ(kszöveg::letter_list(u"KAROSSZÉK"), u",k,a,r,o,s,sz,é,k,");
+  EXPECT_EQ(kszöveg::letter_list(u"RAJZSZÖG"), u",R,A,J,Z,SZ,Ö,G,");
+}
+
+TEST(Passing, AListHoldsWholeLettersOnly) {
+  EXPECT_TRUE(kszöveg::in_list(kszöveg::letter_list(u"szó"), u"sz"));
+  EXPECT_FALSE(kszöveg::in_list(kszöveg::letter_list(u"szó"), u"s"));
+}
+
 TEST(Article, NeedsALetter) { EXPECT_THROW(kszöveg().Névelővel(false), std::out_of_range); }
 
 } // namespace

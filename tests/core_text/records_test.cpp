@@ -280,6 +280,56 @@ TEST_F(RecordsTest, SyllablesAreOneMoreThanTheHyphens) {
   EXPECT_THROW(records.szótagszám(4), std::out_of_range);
 }
 
+// The words.
+
+TEST_F(RecordsTest, AWordIsChosenByLanguageAndSyllables) {
+  EXPECT_EQ(word_form(false, false), WordForm::Név);
+  EXPECT_EQ(word_form(false, true), WordForm::Szótagolt);
+  EXPECT_EQ(word_form(true, false), WordForm::Angol);
+  EXPECT_EQ(word_form(true, true), WordForm::Angol);
+  put(u"1.wms", file_of({u"x", u"asszony", u"x", u"woman", u"asz-szony"}));
+  load();
+  EXPECT_EQ(records.word(0, WordForm::Név), u"asszony");
+  EXPECT_EQ(records.word(0, WordForm::Szótagolt), u"asz-szony");
+  EXPECT_EQ(records.word(0, WordForm::Angol), u"woman");
+}
+
+TEST_F(RecordsTest, LettersAreThoseOfTheFormAndCountTheSameEachTime) {
+  put(u"1.wms", file_of({u"x", u"asszony", u"x", u"sandy", u"asz-szony"}));
+  load();
+  for (int time = 0; time < 2; ++time) {
+    EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0), 4);
+    EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0, WordForm::Szótagolt), 6) << "a, sz, -, sz, o, ny";
+    EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0, WordForm::Angol), 5);
+    EXPECT_EQ(records.word_length(0, false), 4);
+    EXPECT_EQ(records.word_length(0, true), 5);
+    EXPECT_TRUE(records.vanebenne(0, u"ssz"));
+    EXPECT_FALSE(records.vanebenne(0, u"sz"));
+    EXPECT_TRUE(records.vanebenne(0, u"sz", WordForm::Szótagolt));
+    EXPECT_FALSE(records.vanebenne(0, u"s", WordForm::Szótagolt));
+  }
+  EXPECT_THROW(records.MAGYARBETŰKSZÁMA(1), std::out_of_range);
+  EXPECT_THROW(records.vanebenne(-1, u"a"), std::out_of_range);
+}
+
+TEST_F(RecordsTest, WhatIsKeptOfWordsEndsWithTheRecords) {
+  put(u"1.wms", file_of({u"x", u"alma", u"x", u"", u"al-ma"}));
+  load();
+  EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0), 4);
+  EXPECT_TRUE(records.vanebenne(0, u"m"));
+  put(u"1.wms", file_of({u"x", u"sas", u"x", u"", u"sas"}));
+  load();
+  EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0), 3);
+  EXPECT_FALSE(records.vanebenne(0, u"m"));
+}
+
+TEST_F(RecordsTest, AnEmptyWordHasNoLetters) {
+  load();
+  EXPECT_EQ(records.MAGYARBETŰKSZÁMA(0), 0);
+  EXPECT_FALSE(records.vanebenne(0, u"a"));
+  EXPECT_EQ(records.word_length(0, true), 0);
+}
+
 // The draw.
 
 TEST_F(RecordsTest, ADrawTakesTheWholePartAndNeverTheLastRecord) {
@@ -372,6 +422,20 @@ TEST_F(RecordsTest, ARoundedDrawReachesTheLastRecordAndBothEndsHalfAsOften) {
   EXPECT_EQ(drawn, (std::vector<int>{0, 0, 0, 1, 2, 3, 4, 4})) << "a half goes to the even neighbour";
   EXPECT_EQ(records.draw(
                 platform, [](int index) { return index == 4; }, Records::general_advice, Records::Reach::WithLast),
+            4);
+}
+
+TEST_F(RecordsTest, ADrawOfAllGivesTheLastRecordTheSameChance) {
+  put_numbered(5);
+  load();
+  platform.script_random({0, 0.19, 0.2, 0.79, 0.8, 0.999999});
+  std::vector<int> drawn;
+  for (int i = 0; i < 6; ++i)
+    drawn.push_back(records.draw(
+        platform, [](int) { return true; }, Records::general_advice, Records::Reach::All));
+  EXPECT_EQ(drawn, (std::vector<int>{0, 0, 1, 3, 4, 4}));
+  EXPECT_EQ(records.draw(
+                platform, [](int index) { return index == 4; }, Records::general_advice, Records::Reach::All),
             4);
 }
 

@@ -293,6 +293,48 @@ TEST_F(SyllabifierTest, APullByTheRightButtonDoesNotSwallowTheNextKey) {
   EXPECT_EQ(row(window), "a|l|m|a");
 }
 
+TEST_F(SyllabifierTest, AHesitantGestureChangesNothing) {
+  auto& window = deal(u"alma", u"al-ma");
+  const auto hesitate = [&](double way) {
+    Label& letter = window.betű[2];
+    letter.Width = 800;
+    hand::press(letter, 400, 10);
+    hand::move(letter, 400 + way, 10);
+    hand::release(letter, 400 + way, 10);
+  };
+  forget_commands();
+  hesitate(180);
+  hesitate(-180);
+  EXPECT_EQ(row(window), "a|l|m|a");
+  EXPECT_EQ(commands(), "");
+  pull(window, 2, 1);
+  hesitate(180);
+  hesitate(-180);
+  EXPECT_EQ(row(window), "a|l-|m|a");
+}
+
+TEST_F(SyllabifierTest, AClickOfAShakingHandIsOne) {
+  auto& window = deal(u"alma", u"al-ma");
+  Label& letter = window.betű[2];
+  letter.Width = 800;
+  hand::press(letter, 400, 10);
+  hand::move(letter, 430, 40);
+  hand::release(letter, 430, 40);
+  EXPECT_EQ(row(window), "a|l-|m|a");
+}
+
+TEST_F(SyllabifierTest, CtrlAndAnArrowPullAndPush) {
+  auto& window = deal(u"asszony", u"asz-szony");
+  window.set_focus(&window.betű[2]);
+  hand::key(window, key::right, shift::control);
+  hand::key(window, key::right, shift::control);
+  EXPECT_EQ(row(window), "a|sz-|sz|o|ny");
+  hand::key(window, key::left, shift::control);
+  hand::key(window, key::left, shift::control);
+  EXPECT_EQ(row(window), "a|s|sz|o|ny");
+  EXPECT_EQ(window.focus(), &window.betű[2]);
+}
+
 TEST_F(SyllabifierTest, IsPlayedByArrowsSpaceAndEnterAlone) {
   auto& window = deal(u"alma", u"al-ma");
   window.set_focus(&window.betű[0]);
