@@ -21,6 +21,10 @@ class Canvas {
   /// Draws a picture to fill the place, its aspect kept.
   virtual void picture(const Picture& picture, Rect place) = 0;
   virtual void line(Point from, Point to, Color color, double width = twips_per_pixel) = 0;
+  /// Takes a line away that was drawn from there to there in that width: what lies under the canvas shows again, on a
+  /// textured ground too, without a trace of the line's soft edges. Drawings that it crosses lose what they share with
+  /// it.
+  virtual void erase_line(Point from, Point to, double width = twips_per_pixel) = 0;
   /// An outline, one pixel wide.
   virtual void box(Rect place, Color color) = 0;
   virtual void filled_box(Rect place, Color color) = 0;

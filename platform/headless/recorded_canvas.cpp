@@ -69,6 +69,10 @@ void RecordedCanvas::line(Point from, Point to, Color color, double width) {
   add({.kind = Drawing::Kind::Line, .from = from, .to = to, .color = color, .width = width});
 }
 
+void RecordedCanvas::erase_line(Point from, Point to, double width) {
+  add({.kind = Drawing::Kind::EraseLine, .from = from, .to = to, .color = white, .width = width});
+}
+
 void RecordedCanvas::box(Rect place, Color color) { add({.kind = Drawing::Kind::Box, .place = place, .color = color}); }
 
 void RecordedCanvas::filled_box(Rect place, Color color) {
@@ -143,6 +147,7 @@ void RecordedCanvas::rasterize(const Drawing& drawing) const {
     rasterize_picture(drawing);
     break;
   case Drawing::Kind::Line:
+  case Drawing::Kind::EraseLine: // nothing lies under the raster: bare, it is white
     rasterize_line(drawing.from, drawing.to, drawing.color, drawing.width);
     break;
   case Drawing::Kind::Box:

@@ -7,15 +7,15 @@ namespace cserko {
 
 /// One thing that was drawn. Which fields count depends on the kind.
 struct Drawing {
-  enum class Kind : std::uint8_t { Picture, Line, Box, FilledBox, Ellipse, Print, Points, Pixels };
+  enum class Kind : std::uint8_t { Picture, Line, EraseLine, Box, FilledBox, Ellipse, Print, Points, Pixels };
 
   Kind kind = Kind::Line;
   Rect place{};         ///< Picture, Box, FilledBox.
-  Point from{};         ///< Line; Print: its left top corner; Ellipse: its centre; Points: the first one.
-  Point to{};           ///< Line; Points: the last one.
+  Point from{};         ///< Line, EraseLine; Print: its left top corner; Ellipse: its centre; Points: the first one.
+  Point to{};           ///< Line, EraseLine; Points: the last one.
   Size radius{};        ///< Ellipse.
-  Color color{};        ///< All but Picture and Pixels.
-  double width = 0;     ///< Line, twips.
+  Color color{};        ///< All but Picture, EraseLine and Pixels.
+  double width = 0;     ///< Line, EraseLine; twips.
   PicturePtr picture{}; ///< Picture.
   Text text{};          ///< Print.
   Font font{};          ///< Print.
@@ -47,6 +47,7 @@ class RecordedCanvas : public Canvas {
   void clear() override;
   void picture(const Picture& picture, Rect place) override;
   void line(Point from, Point to, Color color, double width = twips_per_pixel) override;
+  void erase_line(Point from, Point to, double width = twips_per_pixel) override;
   void box(Rect place, Color color) override;
   void filled_box(Rect place, Color color) override;
   void ellipse(Point center, double radius_x, double radius_y, Color color) override;

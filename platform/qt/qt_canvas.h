@@ -16,6 +16,7 @@ class QtCanvas : public Canvas {
   void clear() override;
   void picture(const Picture& picture, Rect place) override;
   void line(Point from, Point to, Color color, double width) override;
+  void erase_line(Point from, Point to, double width) override;
   void box(Rect place, Color color) override;
   void filled_box(Rect place, Color color) override;
   void ellipse(Point center, double radius_x, double radius_y, Color color) override;
@@ -37,6 +38,7 @@ class QtCanvas : public Canvas {
   int device_pixel(double twips) const;
   QRect device_pixels(Rect place) const;
   void changed(const QRectF& place);
+  void line_changed(Point from, Point to, double width);
 
   Size size_;
   const Fonts& fonts_;

@@ -67,6 +67,21 @@ TEST_F(CanvasTest, ThickLinesCoverTheirWidth) {
   EXPECT_EQ(canvas.point({300, 345}), white);
 }
 
+TEST_F(CanvasTest, AnErasedLineLeavesTheGroundAndIsWrittenDown) {
+  canvas.line({150, 300}, {600, 150}, red, 45);
+  canvas.line({150, 450}, {600, 450}, black, 15);
+  canvas.erase_line({150, 300}, {600, 150}, 45);
+  for (int x = 0; x < 100; ++x) {
+    for (int y = 0; y < 29; ++y) ASSERT_EQ(canvas.point({x * 15.0, y * 15.0}), white) << x << ", " << y;
+  }
+  EXPECT_EQ(canvas.point({300, 450}), black);
+  const Drawing& last = canvas.drawings().back();
+  EXPECT_EQ(last.kind, Drawing::Kind::EraseLine);
+  EXPECT_EQ(last.from, (Point{150, 300}));
+  EXPECT_EQ(last.to, (Point{600, 150}));
+  EXPECT_EQ(last.width, 45);
+}
+
 TEST_F(CanvasTest, PointsAreSetAndCountedTogether) {
   for (int x = 0; x < 10; ++x) canvas.set_point({x * 15.0, 30}, red);
   EXPECT_EQ(canvas.point({135, 30}), red);

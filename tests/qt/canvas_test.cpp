@@ -2,6 +2,8 @@
 #include "platform/qt/qt_canvas.h"
 
 #include <QGuiApplication>
+#include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace cserko::test {
@@ -16,6 +18,14 @@ class Drawing : public testing::TestWithParam<double> {
   Fonts fonts{GetParam() / twips_per_pixel};
   QtCanvas canvas{{1500, 1200}, fonts, 1.0};
 
+  /// Whether every pixel lets what lies under the canvas show as if nothing had ever been drawn.
+  bool bare() const {
+    for (int y = 0; y < canvas.image().height(); ++y) {
+      const auto* row = reinterpret_cast<const QRgb*>(canvas.image().constScanLine(y));
+      if (std::any_of(row, row + canvas.image().width(), [](QRgb pixel) { return pixel != 0; })) return false;
+    }
+    return true;
+  }
   static Point pixel(int x, int y) { return {x * twips_per_pixel, y * twips_per_pixel}; }
 };
 
@@ -91,6 +101,36 @@ TEST_P(Drawing, ALineRunsFromPlaceToPlace) {
   EXPECT_EQ(canvas.point({750, 300}), white);
 }
 
+TEST_P(Drawing, ALineThatIsErasedLeavesNoTraceAtAnyAngle) {
+  for (const double width : {15.0, 45.0, 60.0}) {
+    for (int degrees = 0; degrees < 360; degrees += 7) {
+      const double angle = degrees * 3.14159265358979 / 180;
+      const Point from{751.3, 602.9};
+      const Point to{from.x + 433.7 * std::cos(angle), from.y + 433.7 * std::sin(angle)};
+      canvas.line(from, to, black, width);
+      ASSERT_FALSE(bare()) << degrees;
+      canvas.erase_line(from, to, width);
+      ASSERT_TRUE(bare()) << "width " << width << ", " << degrees << " degrees";
+    }
+  }
+}
+
+TEST_P(Drawing, APathOfThePointerIsErasedPieceByPiece) {
+  std::vector<Point> path;
+  for (int i = 0; i < 90; ++i) path.push_back({200 + i * 11.0, 600 + 350 * std::sin(i / 7.0)});
+  for (std::size_t i = 1; i < path.size(); ++i) canvas.line(path[i - 1], path[i], blue, 45);
+  for (std::size_t i = 1; i < path.size(); ++i) canvas.erase_line(path[i - 1], path[i], 45);
+  EXPECT_TRUE(bare());
+}
+
+TEST_P(Drawing, ErasingTakesNothingThatLiesAside) {
+  canvas.filled_box({0, 0, 1500, 570}, red);
+  canvas.line({0, 645}, {1500, 645}, blue, 45);
+  canvas.erase_line({0, 645}, {1500, 645}, 45);
+  EXPECT_EQ(canvas.point({750, 555}), red);
+  EXPECT_EQ(canvas.point({750, 645}), white);
+}
+
 TEST_P(Drawing, AnEllipseIsAnOutlineAroundItsCentre) {
   canvas.ellipse({750, 600}, 600, 300, blue);
   EXPECT_EQ(canvas.point({750, 600}), white);
@@ -132,6 +172,8 @@ TEST_P(Drawing, EveryDrawingIsNoticed) {
   const auto noticed = [&] { return std::exchange(last, canvas.revision()) != canvas.revision(); };
   EXPECT_FALSE(noticed());
   canvas.line({0, 0}, {100, 100}, red, twips_per_pixel);
+  EXPECT_TRUE(noticed());
+  canvas.erase_line({0, 0}, {100, 100}, twips_per_pixel);
   EXPECT_TRUE(noticed());
   canvas.box({0, 0, 100, 100}, red);
   EXPECT_TRUE(noticed());

@@ -176,6 +176,25 @@ TEST_F(Looks, ATransparentLabelShowsWhatLiesUnderIt) {
   EXPECT_EQ(image.pixelColor(place(opaque, {450, 450})), QColor(200, 10, 30));
 }
 
+TEST_F(Looks, AnErasedLineShowsTheTexturedGroundOfItsWindowAgain) {
+  QImage noise(64, 64, QImage::Format_RGB32);
+  for (int y = 0; y < 64; ++y) {
+    for (int x = 0; x < 64; ++x) noise.setPixel(x, y, qRgb(200 + x * 7 % 50, 190 + y * 11 % 60, 180 + x * y % 70));
+  }
+  ASSERT_TRUE(noise.save(qEnvironmentVariable("CSERKO_PACK_DIR") + "/kepek/paper.png"));
+  NotingWindow window(*machine);
+  window.Picture = machine->load_picture(u"c:\\cserko\\kepek\\paper.png");
+  ASSERT_NE(window.Picture, nullptr);
+  show(window);
+  const QImage before = picture_of(window);
+  window.canvas().line({300, 300}, {4200, 3100}, black, 45);
+  machine->redraw(window);
+  EXPECT_NE(picture_of(window), before);
+  window.canvas().erase_line({300, 300}, {4200, 3100}, 45);
+  machine->sync_all();
+  EXPECT_EQ(picture_of(window), before);
+}
+
 TEST_F(Looks, LaterElementsLieOnTopOfEarlierOnes) {
   NotingWindow window(*machine);
   Label below(window, u"lbl_a", {300, 300, 900, 900});
