@@ -34,9 +34,17 @@ const Exception* exception_for(TextView text) {
   return found == exceptions.end() ? nullptr : &*found;
 }
 
+// Whether a letter of several characters begins so; most characters need no closer look.
+constexpr bool begins_long_letter(char16_t character) {
+  std::uint32_t beginnings = 0;
+  for (const TextView letter : toldalék) beginnings |= 1U << (letter.front() - u'a');
+  return character >= u'a' && character <= u'z' && (beginnings >> (character - u'a') & 1U) != 0;
+}
+
 // Length of the letter at the start of a text that is not empty.
 std::size_t letter_length(TextView text) {
   const char16_t first = lower_case(text.front());
+  if (!begins_long_letter(first)) return 1;
   for (const TextView letter : toldalék) {
     if (letter.front() == first && letter.size() <= text.size() &&
         equal_ignoring_case(letter, text.substr(0, letter.size())))
