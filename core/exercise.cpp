@@ -59,6 +59,17 @@ ExerciseWindow::ExerciseWindow(Session& session, TextView name, Size design, Tex
   KeyPreview = true;
 }
 
+void ExerciseWindow::deal(const std::function<void()>& steps) {
+  has_puzzle_ = false;
+  try {
+    steps();
+  } catch (...) {
+    no_puzzle();
+    throw;
+  }
+  has_puzzle_ = true;
+}
+
 void ExerciseWindow::deal_first(const std::function<void()>& deal) {
   try {
     deal();
@@ -82,7 +93,18 @@ void ExerciseWindow::KeyDown(KeyEvent& event) {
 }
 
 void ExerciseWindow::set_close_entry(MenuItem& item) {
-  item.Click = [this] { session_.unload(*this); };
+  item.Click = [this] {
+    unload_dialogs(DialogAtClose::GoesByMenuOnly);
+    session_.unload(*this);
+  };
+}
+
+void ExerciseWindow::Unload() { unload_dialogs(DialogAtClose::Goes); }
+
+void ExerciseWindow::unload_dialogs(DialogAtClose rule) {
+  for (const Companion& dialog : dialogs_) {
+    if (dialog.rule == rule) dialog.unload();
+  }
 }
 
 void ExerciseWindow::set_help_entry(MenuItem& item, TextView page) {

@@ -4,6 +4,7 @@
 #include "core/numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace cserko {
 
@@ -144,6 +145,12 @@ void draw_placeholder(PictureBox& box, TextView name) {
   box.canvas().print({box.Width / 2 - extent.width / 2, box.Height / 2 - extent.height / 2}, name, font, black);
 }
 
+void show_picture(PictureBox& box, PicturePtr picture, TextView name) {
+  clear_picture(box);
+  box.Picture = std::move(picture);
+  if (!box.Picture) draw_placeholder(box, name);
+}
+
 } // namespace
 
 void ablak_középre(Session& session, Window& window) {
@@ -223,9 +230,15 @@ void fit_wrapped(Label& label, TextView text) {
 
 void show_record_picture(Session& session, PictureBox& box, int index) {
   const KépAdat& record = session.képek[index];
-  clear_picture(box);
-  box.Picture = session.platform().load_picture(record.wmf);
-  if (!box.Picture) draw_placeholder(box, record.név);
+  show_picture_file(box, record.wmf, record.név);
+}
+
+void show_picture_file(PictureBox& box, const Text& path, TextView name) {
+  show_picture(box, box.window().platform().load_picture(path), name);
+}
+
+void show_picture_of(PictureBox& box, const PictureBox& shown, TextView name) {
+  show_picture(box, shown.Picture, name);
 }
 
 void kép_rajzolás(Session& session, PictureBox& box, int index, const Caption& caption) {

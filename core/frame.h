@@ -40,6 +40,13 @@ void kép_rajzolás(Session& session, PictureBox& box, int index, const Caption&
 /// Shows a record's picture in a box; where it has none that can be drawn, a neutral placeholder with the name.
 void show_record_picture(Session& session, PictureBox& box, int index);
 
+/// Shows the picture of a file in a box; where there is none that can be drawn, the placeholder with that name.
+void show_picture_file(PictureBox& box, const Text& path, TextView name);
+
+/// Shows in a box the picture that another one shows, without what is drawn over it; where that is none, the
+/// placeholder with that name.
+void show_picture_of(PictureBox& box, const PictureBox& shown, TextView name);
+
 /// Takes picture and drawing out of a box.
 void clear_picture(PictureBox& box);
 

@@ -5,6 +5,7 @@
 #include "core/frm_főablak_beállítások.h"
 #include "core/frm_referencia.h"
 #include "core/nothing_fits.h"
+#include "core/window_gone.h"
 
 #include <algorithm>
 
@@ -96,6 +97,7 @@ void Session::run_event(Window& window, const std::function<void()>& handler) {
     handler();
   } catch (const NothingFits& unfit) {
     feedback.tell(unfit.message());
+  } catch (const WindowGone&) { // NOLINT(bugprone-empty-catch): the handler has ended with its window
   } catch (const std::exception& error) {
     platform_.report_error(explain(error, window));
   }

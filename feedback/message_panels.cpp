@@ -12,6 +12,13 @@ namespace {
 constexpr double space_above_button = 60;
 constexpr double side_margins = 240;
 
+void show_hint_panel(Session& session, TextView word, const std::function<void(PictureBox&)>& show_picture) {
+  auto& panel = session.window<üzenet>();
+  show_picture(panel.üzenet_kép);
+  panel.üzenet_szöveg.Caption = word;
+  session.platform().show_modal(panel);
+}
+
 } // namespace
 
 szövegüzenet::szövegüzenet(Session& session)
@@ -97,6 +104,14 @@ void szöveges_üzenet(Session& session, Text text, int tenths) {
     throw InvalidValue("message panel: the time is outside 0 to 327 tenths of a second");
   panel.timer_bezár.Interval = interval;
   session.platform().show_modal(panel);
+}
+
+void show_hint(Session& session, int record, TextView word) {
+  show_hint_panel(session, word, [&](PictureBox& box) { show_record_picture(session, box, record); });
+}
+
+void show_hint(Session& session, const PictureBox& shown, TextView word) {
+  show_hint_panel(session, word, [&](PictureBox& box) { show_picture_of(box, shown, word); });
 }
 
 } // namespace cserko

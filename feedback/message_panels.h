@@ -72,4 +72,9 @@ class frm_üzenet : public Window {
 /// Throws InvalidValue for a longer time.
 void szöveges_üzenet(Session& session, Text text, int tenths);
 
+/// Shows a picture with its word in the panel `üzenet`, modally: what a child gets that asks what a picture is. The
+/// picture is that of a record, or the one that a box shows.
+void show_hint(Session& session, int record, TextView word);
+void show_hint(Session& session, const PictureBox& shown, TextView word);
+
 } // namespace cserko

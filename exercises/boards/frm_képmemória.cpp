@@ -1,5 +1,6 @@
 #include "exercises/boards/frm_képmemória.h"
 
+#include "core/animation.h"
 #include "core/numbers.h"
 #include "core/settings.h"
 #include "feedback/frm_gratuláció.h"
@@ -30,18 +31,6 @@ Text as_time(std::int64_t ms) {
   const std::int64_t seconds = ms / 1000;
   return two_digits(seconds / 3600 % 24) + u":" + two_digits(seconds / 60 % 60) + u":" + two_digits(seconds % 60);
 }
-
-// Takes the window's input away for as long as it lives, so that clicks do not queue.
-class Deaf {
- public:
-  explicit Deaf(Window& window) : window_(window) { window_.Enabled = false; }
-  ~Deaf() { window_.Enabled = true; }
-  Deaf(const Deaf&) = delete;
-  Deaf& operator=(const Deaf&) = delete;
-
- private:
-  Window& window_;
-};
 
 } // namespace
 
@@ -74,7 +63,7 @@ void frm_képmemória::bind() {
   kép.KeyDown = [this](int index, KeyEvent& event) { card_key(index, event); };
   Timer1.Tick = [this] { show_time(); };
   mnu_fájl_új_játék.Click = [this] { beáll(); };
-  mnu_fájl_beáll.Click = [this] { platform().show_modal(settings()); };
+  set_settings_entry<frm_képmem_beáll>(mnu_fájl_beáll, DialogAtClose::Goes);
   set_close_entry(mnu_fájl_kilép);
   set_help_entry(mnu_súgó_súgó, u"Képmemória - a feladat.mht");
 }
@@ -88,8 +77,6 @@ void frm_képmemória::Load() {
   nemkép.Picture = platform().load_picture(session().alapkönyvtár + u"cserko\\kártyahát.wmf");
   deal_first([this] { beáll(); });
 }
-
-void frm_képmemória::Unload() { session().unload(settings()); }
 
 void frm_képmemória::lay_out_cards() {
   for (Label* line : {&Label_feladat, &időkijelző, &labszópárok[0]}) szöveg_illesztés(*line);
@@ -122,6 +109,15 @@ int frm_képmemória::képszámlálás() const {
 }
 
 void frm_képmemória::beáll() {
+  deal([this] { new_board(); });
+}
+
+void frm_képmemória::no_puzzle() {
+  clear_board();
+  időkijelző.Caption = as_time(0);
+}
+
+void frm_képmemória::new_board() {
   platform().seed_random();
   clear_board();
   std::set<Text> used;
@@ -174,12 +170,7 @@ int frm_képmemória::draw_record(const std::set<Text>& used) {
 void frm_képmemória::place_pair(std::set<Text>& used) {
   const int first = free_place();
   const int record = draw_record(used);
-  if (settings().chk_képek_bemutatása.ticked()) {
-    auto& panel = session().window<üzenet>();
-    panel.üzenet_kép.Picture = platform().load_picture(képek()[record].wmf);
-    panel.üzenet_szöveg.Caption = képnévnyelv(record);
-    platform().show_modal(panel);
-  }
+  if (settings().chk_képek_bemutatása.ticked()) show_hint(session(), record, képnévnyelv(record));
   used.insert(képnévnyelv(record));
   const auto place = [&](int index, bool picture_side) {
     kép[index].Tag = to_text(record);
@@ -230,19 +221,16 @@ void frm_képmemória::squeeze(PictureBox& card, Label& word, double share) {
   word.Top = middle - word.Height / 2;
 }
 
-void frm_képmemória::lap_fordítás(PictureBox& a, Label& b) {
+void frm_képmemória::lap_fordítás(Animation& animation, PictureBox& a, Label& b) {
   const bool open = a.Width > closed_width;
   if (open) hang_lejátszás(session(), session().alapkönyvtár + u"\\cserko\\Moving.wav");
   if (!settings().chk_anim_enged.ticked()) return;
   const int frames = settings().HScroll_anim_finomság.value();
-  for (int i = 0; i <= frames; ++i) {
-    squeeze(a, b, static_cast<double>(open ? frames - i : i) / frames);
-    platform().next_frame(*this);
-  }
+  animation.steps(open ? frames : 0, open ? 0 : frames, [&](int i) { squeeze(a, b, static_cast<double>(i) / frames); });
 }
 
-void frm_képmemória::turn_up(int index) {
-  lap_fordítás(kép[index], képszöveg[index]);
+void frm_képmemória::turn_up(Animation& animation, int index) {
+  lap_fordítás(animation, kép[index], képszöveg[index]);
   kép[index].BackColor = white;
   if (képoldal(index) || !settings().with_words()) {
     show_record_picture(session(), kép[index], record_of(index));
@@ -252,7 +240,7 @@ void frm_képmemória::turn_up(int index) {
     képszöveg[index].BackColor = white;
     képszöveg[index].Visible = true;
   }
-  lap_fordítás(kép[index], képszöveg[index]);
+  lap_fordítás(animation, kép[index], képszöveg[index]);
   platform().redraw(*this);
 }
 
@@ -266,21 +254,21 @@ int frm_képmemória::other_open_card() {
 
 void frm_képmemória::kártya_fordítás(int index) {
   {
-    const Deaf deaf(*this);
+    Animation animation(session(), *this);
     if (felfordítva(index)) return;
-    turn_up(index);
+    turn_up(animation, index);
     const int other = other_open_card();
     if (other < 0) {
       felfordítva_.at(static_cast<std::size_t>(index)) = true;
       return;
     }
     if (kép[other].Tag == kép[index].Tag) {
-      wait_until([](const Text& elapsed) { return elapsed >= u"00:00:01"; });
-      pár_eltüntetés(other, index);
+      wait_until(animation, [](const Text& elapsed) { return elapsed >= u"00:00:01"; });
+      pár_eltüntetés(animation, other, index);
     } else {
       // Compared as texts, the wait lasts one whole second beyond the setting. That is intended.
-      wait_until([this](const Text& elapsed) { return elapsed > settings().txtvárid.text(); });
-      turn_back(other, index);
+      wait_until(animation, [this](const Text& elapsed) { return elapsed > settings().txtvárid.text(); });
+      turn_back(animation, other, index);
     }
     felfordítva_.at(static_cast<std::size_t>(other)) = false;
     felfordítva_.at(static_cast<std::size_t>(index)) = false;
@@ -296,16 +284,16 @@ bool frm_képmemória::board_empty() const {
   return !any;
 }
 
-void frm_képmemória::turn_back(int first, int second) {
-  for (const int index : {first, second}) lap_fordítás(kép[index], képszöveg[index]);
+void frm_képmemória::turn_back(Animation& animation, int first, int second) {
+  for (const int index : {first, second}) lap_fordítás(animation, kép[index], képszöveg[index]);
   for (const int index : {first, second}) {
     show_back(index);
     képszöveg[index].Visible = false;
   }
-  for (const int index : {first, second}) lap_fordítás(kép[index], képszöveg[index]);
+  for (const int index : {first, second}) lap_fordítás(animation, kép[index], képszöveg[index]);
 }
 
-void frm_képmemória::pár_eltüntetés(int a, int b) {
+void frm_képmemória::pár_eltüntetés(Animation& animation, int a, int b) {
   const bool success_sounds = session().window<frm_hangbeáll>().chk_hang_a_feladatokban_helyes.ticked();
   hang_lejátszás(session(),
                  session().alapkönyvtár + (success_sounds ? u"\\cserko\\swallow1.wav" : u"\\cserko\\Moving.wav"));
@@ -317,9 +305,10 @@ void frm_képmemória::pár_eltüntetés(int a, int b) {
     card.Top = middle - card.Height / 2;
     squeeze(card, képszöveg[index], share);
   };
-  for (int i = frames; settings().chk_anim_enged.ticked() && i >= 0; --i) {
-    for (const int index : {a, b}) shrink(index, static_cast<double>(i) / frames);
-    platform().next_frame(*this);
+  if (settings().chk_anim_enged.ticked()) {
+    animation.steps(frames, 0, [&](int i) {
+      for (const int index : {a, b}) shrink(index, static_cast<double>(i) / frames);
+    });
   }
   for (const int index : {a, b}) {
     kép[index].Visible = false;
@@ -329,15 +318,15 @@ void frm_képmemória::pár_eltüntetés(int a, int b) {
   }
 }
 
-void frm_képmemória::wait_until(const std::function<bool(const Text& elapsed)>& condition) {
-  const std::int64_t start = platform().now();
-  while (!platform().ended() && !condition(as_time(platform().now() - start))) {
+void frm_képmemória::wait_until(Animation& animation, const std::function<bool(const Text& elapsed)>& condition) {
+  animation.wait_until([&, start = platform().now()] {
     show_time();
-    platform().next_frame(*this);
-  }
+    return condition(as_time(platform().now() - start));
+  });
 }
 
 void frm_képmemória::show_time() {
+  if (!has_puzzle()) return;
   const Text time = as_time(platform().now() - kezdési_idő_);
   if (időkijelző.Caption != time) időkijelző.Caption = time;
 }
@@ -345,10 +334,7 @@ void frm_képmemória::show_time() {
 void frm_képmemória::segítség(int index) {
   const bool allowed = settings().segítség_engedélyezése.ticked() && (!settings().segít.ticked() || felfordítva(index));
   if (!allowed || kép[index].Tag.empty()) return;
-  auto& panel = session().window<üzenet>();
-  show_record_picture(session(), panel.üzenet_kép, record_of(index));
-  panel.üzenet_szöveg.Caption = képnévnyelv(record_of(index));
-  platform().show_modal(panel);
+  show_hint(session(), record_of(index), képnévnyelv(record_of(index)));
 }
 
 void frm_képmemória::card_key(int index, KeyEvent& event) {

@@ -10,6 +10,8 @@
 
 namespace cserko {
 
+class Animation;
+
 class frm_képmemória : public ExerciseWindow {
  public:
   explicit frm_képmemória(Session& session);
@@ -53,9 +55,12 @@ class frm_képmemória : public ExerciseWindow {
   bool képoldal(int index) const { return képoldal_.at(static_cast<std::size_t>(index)); }
 
   void Load() override;
-  void Unload() override;
+
+ protected:
+  void no_puzzle() override;
 
  private:
+  void new_board();
   void bind();
   void lay_out_cards();
   void clear_board();
@@ -65,12 +70,12 @@ class frm_képmemória : public ExerciseWindow {
   void place_pair(std::set<Text>& used);
 
   void kártya_fordítás(int index);
-  void turn_up(int index);
-  void turn_back(int first, int second);
+  void turn_up(Animation& animation, int index);
+  void turn_back(Animation& animation, int first, int second);
   void show_back(int index);
   int other_open_card();
-  void lap_fordítás(PictureBox& a, Label& b);
-  void pár_eltüntetés(int a, int b);
+  void lap_fordítás(Animation& animation, PictureBox& a, Label& b);
+  void pár_eltüntetés(Animation& animation, int a, int b);
   void squeeze(PictureBox& card, Label& word, double share);
   void segítség(int index);
   void card_key(int index, KeyEvent& event);
@@ -78,7 +83,7 @@ class frm_képmemória : public ExerciseWindow {
 
   void show_time();
   /// Waits until the condition on the elapsed time, as text, holds; the window stays painted and its clock goes on.
-  void wait_until(const std::function<bool(const Text& elapsed)>& condition);
+  void wait_until(Animation& animation, const std::function<bool(const Text& elapsed)>& condition);
   int record_of(int index) const;
 
   frm_képmem_beáll& settings() const { return session().window<frm_képmem_beáll>(); }

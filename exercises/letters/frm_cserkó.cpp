@@ -68,7 +68,7 @@ void frm_cserkó::bind() {
     beáll();
   };
   mnu_fájl_újfeladat.Click = [this] { beáll(); };
-  mnu_fájl_beálítások.Click = [this] { platform().show_modal(settings()); };
+  set_settings_entry<frm_cserkó_beáll>(mnu_fájl_beálítások, DialogAtClose::Goes);
   set_close_entry(mnu_fájl_kilép);
   set_help_entry(mnu_súgó_súgó, u"Cserkó - A feladat.mht");
 }
@@ -85,13 +85,21 @@ void frm_cserkó::Load() {
   deal_first([this] { beáll(); });
 }
 
-void frm_cserkó::Unload() { session().unload(settings()); }
-
 void frm_cserkó::beáll() {
+  deal([this] { new_puzzle(); });
+}
+
+void frm_cserkó::no_puzzle() {
+  feladat_törlése();
+  for (Button* button : answer_buttons()) button->Enabled = false;
+}
+
+void frm_cserkó::new_puzzle() {
   feladat_törlése();
   kép.Font = betű[0].Font;
   szóválasztás();
   betűk_szétszórása(record().név);
+  cmd_kész.Enabled = true;
   cmd_újrakever.Enabled = settings().chk_ismételt_keverés_engedélyezése.ticked();
   cmd_rendez.Enabled = settings().chk_szórendezés_engedélyezés.ticked();
   cmd_egybetűtfelfed.Enabled = settings().Chk_betűfelfed.ticked();
@@ -103,7 +111,7 @@ void frm_cserkó::feladat_törlése() {
   letters_.clear();
   clear_picture(kép);
   lbl_megoldás.Visible = false;
-  for (Button* button : {&cmd_kész, &cmd_egybetűtfelfed, &cmd_újrakever, &cmd_rendez}) button->Visible = true;
+  for (Button* button : answer_buttons()) button->Visible = true;
 }
 
 void frm_cserkó::szóválasztás() {
@@ -143,9 +151,12 @@ void frm_cserkó::rendezés() {
   letters_.kijelölés_törlése();
 }
 
-void frm_cserkó::KeyDown(KeyEvent& event) { letters_.key_down(event); }
+void frm_cserkó::KeyDown(KeyEvent& event) {
+  if (has_puzzle()) letters_.key_down(event);
+}
 
 void frm_cserkó::frame_pressed(const MouseEvent& event) {
+  if (!has_puzzle()) return;
   if (event.button == MouseButton::Left) {
     if (!settings().chk_ismételt_keverés_engedélyezése.ticked()) letters_.put_down(event);
     újrakeverés();
@@ -193,7 +204,7 @@ void frm_cserkó::solved() {
   betű.each([](Label& letter) { letter.Visible = false; });
   szöveg_illesztés(lbl_megoldás, Text(record().név));
   lbl_megoldás.Visible = true;
-  for (Button* button : {&cmd_kész, &cmd_egybetűtfelfed, &cmd_újrakever, &cmd_rendez}) button->Visible = false;
+  for (Button* button : answer_buttons()) button->Visible = false;
   Timer1.Enabled = true;
 }
 

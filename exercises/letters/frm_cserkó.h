@@ -7,6 +7,8 @@
 #include "exercises/shared/scattered_pieces.h"
 #include "platform/element_array.h"
 
+#include <array>
+
 namespace cserko {
 
 class frm_cserkó;
@@ -77,15 +79,19 @@ class frm_cserkó : public ExerciseWindow {
   int feladat_index() const { return feladat_index_; }
 
   void Load() override;
-  void Unload() override;
   void KeyDown(KeyEvent& event) override;
+
+ protected:
+  void no_puzzle() override;
 
  private:
   enum class Answer : std::uint8_t { Right, OtherWord, Unknown };
   static constexpr TextView task = u"A keretben egy szó betűit láthatod összekeverve. Rakd ki a betűkből a szót!";
 
   void bind();
+  void new_puzzle();
   void feladat_törlése();
+  std::array<Button*, 4> answer_buttons() { return {&cmd_kész, &cmd_egybetűtfelfed, &cmd_újrakever, &cmd_rendez}; }
   void szóválasztás();
   void betűk_szétszórása(const Text& word);
   void újrakeverés();

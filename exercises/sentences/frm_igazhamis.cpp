@@ -32,6 +32,8 @@ void frm_igazhamis::Load() {
   deal_first([this] { feladat_kirakása(); });
 }
 
+void frm_igazhamis::no_puzzle() { feladat_törlés(); }
+
 void frm_igazhamis::feladat_törlés() {
   lbl_állítás.each([](Label& statement) { statement.Caption.clear(); });
   clear_picture(kép);
@@ -48,6 +50,10 @@ int frm_igazhamis::szóválasztás() {
 }
 
 void frm_igazhamis::feladat_kirakása() {
+  deal([this] { new_puzzle(); });
+}
+
+void frm_igazhamis::new_puzzle() {
   feladat_törlés();
   aktuális_kép_ = szóválasztás();
   const KépAdat& record = képek()[aktuális_kép_];
@@ -62,8 +68,7 @@ void frm_igazhamis::feladat_kirakása() {
 }
 
 void frm_igazhamis::lbl_állítás_click(int index) {
-  // Where the last deal failed the statements are empty.
-  if (lbl_állítás[index].Caption.empty()) return;
+  if (!has_puzzle()) return;
   if (lbl_állítás[index].Caption != képek()[aktuális_kép_].igaz) {
     hiba_hang(session());
     return;

@@ -31,7 +31,11 @@ class frm_igazhamis : public ExerciseWindow {
 
   void Load() override;
 
+ protected:
+  void no_puzzle() override;
+
  private:
+  void new_puzzle();
   void feladat_törlés();
   int szóválasztás();
   void lbl_állítás_click(int index);

@@ -43,6 +43,8 @@ void frm_mondatkép::MouseUp(const MouseEvent& event) {
   if (event.button == MouseButton::Left) feladat_kirakása();
 }
 
+void frm_mondatkép::no_puzzle() { feladat_törlés(); }
+
 void frm_mondatkép::feladat_törlés() {
   pic_feladványkép.each([](PictureBox& picture) {
     clear_picture(picture);
@@ -73,6 +75,10 @@ void frm_mondatkép::place(int ring_place, int record) {
 }
 
 void frm_mondatkép::feladat_kirakása() {
+  deal([this] { new_puzzle(); });
+}
+
+void frm_mondatkép::new_puzzle() {
   feladat_törlés();
   aktuális_kép_ = szóválasztás();
   szöveg_illesztés(lbl_meghatározás, Text(képek()[aktuális_kép_].meghatározás));
@@ -86,16 +92,15 @@ void frm_mondatkép::feladat_kirakása() {
 }
 
 void frm_mondatkép::pic_feladványkép_click(int index) {
-  const auto record = number_in(pic_feladványkép[index].Tag);
-  // Where the last deal failed the place is empty.
-  if (!record || *record < 0) return;
+  if (!has_puzzle()) return;
+  const int record = number_in(pic_feladványkép[index].Tag).value();
   // The comparison is by text: another record with the same definition is right too.
-  if (képek()[*record].meghatározás != lbl_meghatározás.Tag) {
+  if (képek()[record].meghatározás != lbl_meghatározás.Tag) {
     hiba_hang(session());
     return;
   }
   helyes_hang(session());
-  results_.add(*record, lbl_meghatározás.Tag);
+  results_.add(record, lbl_meghatározás.Tag);
   feladat_kirakása();
 }
 

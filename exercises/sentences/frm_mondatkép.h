@@ -32,7 +32,11 @@ class frm_mondatkép : public ExerciseWindow {
   void Load() override;
   void MouseUp(const MouseEvent& event) override;
 
+ protected:
+  void no_puzzle() override;
+
  private:
+  void new_puzzle();
   void feladat_törlés();
   int szóválasztás();
   bool shown_in_ring(int record) const;

@@ -38,11 +38,8 @@ frm_szótagoló::frm_szótagoló(Session& session)
   row_.Pull = [this](int letter, LetterRow::Way way) { return break_changed(letter, way); };
   cmd_kész.Default = true;
   cmd_kész.Click = [this] { kész(); };
-  mnu_fájl_beállítások.Click = [this] { platform().show_modal(settings()); };
-  mnu_fájl_kilép.Click = [this] {
-    this->session().unload(settings());
-    this->session().unload(*this);
-  };
+  set_settings_entry<dlg_szótagoló>(mnu_fájl_beállítások, DialogAtClose::GoesByMenuOnly);
+  set_close_entry(mnu_fájl_kilép);
   set_help_entry(mnu_súgó_súgó, u"szótagoló - a feladat.mht");
 }
 
@@ -56,11 +53,15 @@ void frm_szótagoló::Load() {
 }
 
 void frm_szótagoló::beáll() {
-  feladat_törlés();
-  aktuális_kép_ = szóválasztás();
-  show_record_picture(session(), kép, aktuális_kép_);
-  szó_kirakása(képek()[aktuális_kép_].név);
+  deal([this] {
+    feladat_törlés();
+    aktuális_kép_ = szóválasztás();
+    show_record_picture(session(), kép, aktuális_kép_);
+    szó_kirakása(képek()[aktuális_kép_].név);
+  });
 }
+
+void frm_szótagoló::no_puzzle() { feladat_törlés(); }
 
 void frm_szótagoló::feladat_törlés() {
   clear_picture(kép);
@@ -111,7 +112,7 @@ bool frm_szótagoló::break_changed(int letter, LetterRow::Way way) {
 }
 
 void frm_szótagoló::kész() {
-  if (aktuális_kép_ < 0) return; // no word fitted the settings
+  if (!has_puzzle()) return;
   if (row_.text() != képek()[aktuális_kép_].szótagolt) {
     hiba_hang(session());
     return;

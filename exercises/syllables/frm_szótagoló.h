@@ -54,6 +54,9 @@ class frm_szótagoló : public ExerciseWindow {
 
   void Load() override;
 
+ protected:
+  void no_puzzle() override;
+
  private:
   void feladat_törlés();
   int szóválasztás();

@@ -27,7 +27,7 @@ frm_template::frm_template(Session& session)
     results_.clear();
     beáll();
   };
-  mnu_fájl_beáll.Click = [this] { platform().show_modal(settings()); };
+  set_settings_entry<dlg_template>(mnu_fájl_beáll, DialogAtClose::Goes);
   set_close_entry(mnu_fájl_kilép);
   set_help_entry(mnu_súgó_súgó, u"minta - a feladat.mht");
 }
@@ -36,6 +36,7 @@ void frm_template::Load() {
   ablak_méretezés(*this, 0.95);
   ablak_középre(session(), *this);
   szöveg_illesztés(lbl_feladat);
+  results_.clear();
   deal_first([this] { beáll(); });
 }
 
@@ -52,20 +53,25 @@ int frm_template::szóválasztás() {
 }
 
 void frm_template::beáll() {
-  platform().seed_random();
-  aktuális_kép_ = -1;
+  deal([this] {
+    platform().seed_random();
+    aktuális_kép_ = -1;
+    aktuális_kép_ = szóválasztás();
+    const int other = szóválasztás();
+    show_record_picture(session(), kép, aktuális_kép_);
+    const int place = random_below(platform(), lbl_név.count());
+    lbl_név.each([&](Label& name) { szöveg_illesztés(name, Text(név(name.Index == place ? aktuális_kép_ : other))); });
+  });
+}
+
+void frm_template::no_puzzle() {
   lbl_név.each([](Label& name) { name.Caption.clear(); });
   clear_picture(kép);
-  aktuális_kép_ = szóválasztás();
-  const int other = szóválasztás();
-  show_record_picture(session(), kép, aktuális_kép_);
-  const int place = random_below(platform(), lbl_név.count());
-  lbl_név.each([&](Label& name) { szöveg_illesztés(name, Text(név(name.Index == place ? aktuális_kép_ : other))); });
 }
 
 void frm_template::lbl_név_click(int index) {
+  if (!has_puzzle()) return;
   const Text& chosen = lbl_név[index].Caption;
-  if (chosen.empty()) return; // the last deal failed
   if (chosen != név(aktuális_kép_)) {
     hiba_hang(session());
     return;

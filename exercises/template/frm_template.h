@@ -46,6 +46,9 @@ class frm_template : public ExerciseWindow {
 
   void Load() override;
 
+ protected:
+  void no_puzzle() override;
+
  private:
   int szóválasztás();
   const Text& név(int record) const;

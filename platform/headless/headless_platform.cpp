@@ -169,6 +169,7 @@ void HeadlessPlatform::next_frame(Window& window) {
   ++frames;
   timers_.compare(clock_);
   clock_ += frame_time;
+  if (during_frame) let_person(during_frame);
 }
 
 void HeadlessPlatform::show_modal(Window& window) {

@@ -33,6 +33,8 @@ class HeadlessPlatform : public Platform {
   std::deque<std::function<void(Window& shown)>> script;
   /// What happens in a wait of the suite, before each timer: the person does nothing then unless this is set.
   std::function<void()> during_wait;
+  /// What happens behind each frame of an animation: nobody does anything unless this is set.
+  std::function<void()> during_frame;
   /// Virtual time that each deed of `user` takes, ms.
   int deed_time = 0;
   /// A modal show is stuck when this much virtual time has passed without a deed (ms), or after so many deeds for which

@@ -11,16 +11,6 @@
 namespace cserko {
 namespace {
 
-/// A machine that lets the test look at every frame of an animation.
-class FilmedMachine : public HeadlessPlatform {
- public:
-  std::function<void()> each_frame;
-  void next_frame(Window& window) override {
-    HeadlessPlatform::next_frame(window);
-    if (each_frame) each_frame();
-  }
-};
-
 // Record i of five lies on the places i (picture side) and 10 + i.
 class MemoryTurnTest : public ::testing::Test {
  protected:
@@ -76,7 +66,7 @@ class MemoryTurnTest : public ::testing::Test {
   static std::string picture(const PictureBox& box) { return box.Picture ? utf8(box.Picture->path()) : "(none)"; }
   static const inline std::string back = "c:\\cserko\\cserko\\kártyahát.wmf";
 
-  FilmedMachine machine;
+  HeadlessPlatform machine;
   std::optional<Session> session;
   frm_képmemória* window = nullptr;
   std::size_t heard = 0;
@@ -109,7 +99,7 @@ TEST_F(MemoryTurnTest, AmongPicturesBothSidesShowTheSamePicture) {
   EXPECT_EQ(picture(card(11)), "c:\\cserko\\kepek\\2.wmf");
   EXPECT_FALSE(word(11).Visible);
   int both_open = 0;
-  machine.each_frame = [&] {
+  machine.during_frame = [&] {
     if (picture(card(1)) == back) return;
     ++both_open;
     EXPECT_EQ(picture(card(1)), "c:\\cserko\\kepek\\2.wmf");
@@ -127,7 +117,7 @@ TEST_F(MemoryTurnTest, ATurnSqueezesTheCardTowardsItsMiddleAndBackFrameByFrame) 
   const double center = card(1).Left + full / 2;
   const Rect before = place_of(card(1));
   std::vector<double> widths;
-  machine.each_frame = [&] {
+  machine.during_frame = [&] {
     widths.push_back(card(1).Width / full * frames);
     EXPECT_NEAR(card(1).Left + card(1).Width / 2, center, 0.001);
     EXPECT_EQ(picture(card(1)), widths.size() <= frames + 1 ? back : "c:\\cserko\\kepek\\2.wmf");
@@ -143,7 +133,7 @@ TEST_F(MemoryTurnTest, ATurnSqueezesTheCardTowardsItsMiddleAndBackFrameByFrame) 
 TEST_F(MemoryTurnTest, TheWordIsSqueezedWithItsCard) {
   const double full = window->nemszöveg.Width;
   std::vector<double> widths;
-  machine.each_frame = [&] {
+  machine.during_frame = [&] {
     if (!word(11).Visible) return;
     widths.push_back(word(11).Width / full * frames);
     EXPECT_NEAR(word(11).Left + word(11).Width / 2, card(11).Left + card(11).Width / 2, 0.001);
@@ -213,7 +203,7 @@ TEST_F(MemoryTurnTest, TheMiddleButtonTurnsToo) {
 TEST_F(MemoryTurnTest, TheWindowIsDeafWhileCardsTurnAndWait) {
   turn(1);
   int tried = 0;
-  machine.each_frame = [&] {
+  machine.during_frame = [&] {
     ++tried;
     EXPECT_FALSE(window->Enabled);
     hand::press(card(2), 10, 10);
@@ -224,7 +214,7 @@ TEST_F(MemoryTurnTest, TheWindowIsDeafWhileCardsTurnAndWait) {
     hand::close(*window);
   };
   turn(2 + 10);
-  machine.each_frame = {};
+  machine.during_frame = {};
   EXPECT_GT(tried, 100);
   EXPECT_TRUE(window->Enabled);
   EXPECT_TRUE(session->loaded<frm_képmemória>());
@@ -239,9 +229,9 @@ TEST_F(MemoryTurnTest, DifferentCardsTurnBackOneWholeSecondAfterTheSetTime) {
     dialog().udvárid.set_value(seconds);
     turn(1);
     const std::int64_t start = machine.now();
-    machine.each_frame = [&] { EXPECT_EQ(picture(card(1)), "c:\\cserko\\kepek\\2.wmf"); };
+    machine.during_frame = [&] { EXPECT_EQ(picture(card(1)), "c:\\cserko\\kepek\\2.wmf"); };
     turn(12);
-    machine.each_frame = {};
+    machine.during_frame = {};
     EXPECT_GE(machine.now() - start, (seconds + 1) * 1000);
     EXPECT_LT(machine.now() - start, (seconds + 1) * 1000 + HeadlessPlatform::frame_time);
     EXPECT_EQ(picture(card(1)), back);
@@ -271,7 +261,7 @@ TEST_F(MemoryTurnTest, TheClockGoesOnDuringTheWait) {
   dialog().chk_anim_enged.set_value(0);
   turn(1);
   std::set<std::string> seen;
-  machine.each_frame = [&] { seen.insert(utf8(window->időkijelző.Caption)); };
+  machine.during_frame = [&] { seen.insert(utf8(window->időkijelző.Caption)); };
   turn(12);
   EXPECT_EQ(seen, (std::set<std::string>{"00:00:00", "00:00:01", "00:00:02"}));
 }
@@ -298,7 +288,7 @@ TEST_F(MemoryTurnTest, APairShrinksTowardsTheMiddlesOfItsCards) {
   const Rect first = place_of(card(1));
   const Rect second = place_of(card(11));
   std::vector<double> heights;
-  machine.each_frame = [&] {
+  machine.during_frame = [&] {
     const double share = card(1).Height / first.height;
     if (share < 1 || !heights.empty()) heights.push_back(share * frames);
     if (heights.empty()) return;
