@@ -16,6 +16,9 @@ class RowWindow : public ExerciseWindow {
   ElementArray<Label> betű{*this, u"betű", {100, 100, 500, 500}, TextView(u"dzs")};
   LetterRow row{betű};
   Button cmd_kész{*this, u"cmd_kész", {100, 2400, 2000, 500}, u"Kész"};
+
+ protected:
+  void no_puzzle() override { row.clear(); }
 };
 
 class LetterRowTest : public ExerciseTest {

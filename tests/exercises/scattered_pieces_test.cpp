@@ -22,6 +22,9 @@ class TrayWindow : public ExerciseWindow {
   ElementArray<Label> szótag{tároló, u"szótag", {0, 0, 2500, 600}};
   ScatteredPieces pieces{session(), tároló, szótag, {.advice = u"Nem fér el."}};
   int presses_left_over = 0;
+
+ protected:
+  void no_puzzle() override { pieces.clear(); }
 };
 
 class ScatteredPiecesTest : public ExerciseTest {
