@@ -64,8 +64,16 @@ bool ExercisePlayer::choose(Element& element, Hand& hand) {
     hand.click(element);
     return true;
   }
+  return press_on(element, hand, key::space);
+}
+
+bool ExercisePlayer::press_on(const Element& element, Hand& hand, int code, int shift) {
   const bool there = element.window().focus() == &element;
-  hand.key(there ? key::space : key_towards(element), shift::none);
+  if (there) {
+    hand.key(code, shift);
+  } else {
+    hand.key(key_towards(element), shift::none);
+  }
   return there;
 }
 

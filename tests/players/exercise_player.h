@@ -35,6 +35,9 @@ class ExercisePlayer : public Player {
   /// when the focus is there. Returns whether it was chosen.
   bool choose(Element& element, Hand& hand);
 
+  /// The same by keyboard with another key than the space bar.
+  bool press_on(const Element& element, Hand& hand, int code, int shift = shift::none);
+
   /// Whether the task is to be answered wrong first. A task is told from the last one by a number that changes.
   bool mistake_due(int task);
   /// The wrong answer was given.

@@ -61,8 +61,12 @@ bool SzótagolóPlayer::play(Window& window, Hand& hand) {
 void SzótagolóPlayer::change_break(frm_szótagoló& exercise, int letter, Hand& hand) {
   Label& label = exercise.betű[letter];
   const bool open = break_after(exercise.betű[letter - 1]);
-  if (!by_mouse() || letter % 2 == 0) {
+  if (letter % 2 == 0) {
     choose(label, hand);
+    return;
+  }
+  if (!by_mouse()) {
+    press_on(label, hand, open ? key::left : key::right, shift::control);
     return;
   }
   // Far enough that the row, which moves under the pointer, does not change it back.

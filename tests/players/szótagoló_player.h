@@ -1,5 +1,5 @@
-// Plays Syllabifier: opens the breaks of the word, by mouse with pulls and clicks in turn, and closes those that are
-// wrong.
+// Plays Syllabifier: opens the breaks of the word, with pulls and clicks in turn or with the keys for both, and closes
+// those that are wrong.
 #pragma once
 
 #include "exercises/syllables/frm_szótagoló.h"
