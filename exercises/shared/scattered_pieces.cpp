@@ -83,7 +83,7 @@ std::vector<int> ScatteredPieces::by_left(By by) const {
 }
 
 std::vector<int> ScatteredPieces::line_up(double row_width, By by) {
-  const std::vector<int> order = by_left(by);
+  std::vector<int> order = by_left(by);
   Label& first = pieces_[order.front()];
   first.Left = std::min(first.Left, box_.Width - row_width - rules_.mouse_margin);
   double left = first.Left;
