@@ -34,11 +34,14 @@ template<class T> class ElementArray {
   ElementArray& operator=(const ElementArray&) = delete;
 
   std::function<void(int)> Click;
+  std::function<void(int)> DblClick;
   std::function<void(int, const MouseEvent&)> MouseDown;
   std::function<void(int, const MouseEvent&)> MouseMove;
   std::function<void(int, const MouseEvent&)> MouseUp;
   std::function<void(int)> GotFocus;
+  std::function<void(int)> LostFocus;
   std::function<void(int, KeyEvent&)> KeyDown;
+  std::function<void(int, Element& source, double x, double y)> DragDrop;
 
   /// The element of that index. Throws std::out_of_range if it is not loaded.
   T& operator[](int index) { return *elements_.at(index); }
@@ -109,6 +112,9 @@ template<class T> class ElementArray {
     element->Click = [this, index] {
       if (Click) Click(index);
     };
+    element->DblClick = [this, index] {
+      if (DblClick) DblClick(index);
+    };
     element->MouseDown = [this, index](const MouseEvent& event) {
       if (MouseDown) MouseDown(index, event);
     };
@@ -120,6 +126,12 @@ template<class T> class ElementArray {
     };
     element->GotFocus = [this, index] {
       if (GotFocus) GotFocus(index);
+    };
+    element->LostFocus = [this, index] {
+      if (LostFocus) LostFocus(index);
+    };
+    element->DragDrop = [this, index](Element& source, double x, double y) {
+      if (DragDrop) DragDrop(index, source, x, y);
     };
     element->KeyDown = [this, index](KeyEvent& event) {
       if (KeyDown) KeyDown(index, event);

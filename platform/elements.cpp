@@ -57,6 +57,27 @@ TextView role(ElementKind kind) {
   return u"";
 }
 
+// The number that a text is, none if it is not a whole number of at most six digits.
+bool whole_number(TextView text, int& number) {
+  if (text.empty() || text.size() > 6) return false;
+  number = 0;
+  for (const char16_t digit : text) {
+    if (digit < u'0' || digit > u'9') return false;
+    number = number * 10 + (digit - u'0');
+  }
+  return true;
+}
+
+// The number that a text begins with, 0 if it begins with none.
+int leading_number(TextView text) {
+  while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
+  std::size_t digits = 0;
+  while (digits < text.size() && digits < 6 && text[digits] >= u'0' && text[digits] <= u'9') ++digits;
+  int number = 0;
+  whole_number(text.substr(0, digits), number);
+  return number;
+}
+
 } // namespace
 
 Parent::Parent(Element& container) : window_(&container.window()), container_(&container) {}
@@ -71,11 +92,14 @@ Element::Element(ElementKind kind, Parent parent, TextView name, Rect place, Tex
       kind_(kind),
       window_(&parent.window()),
       container_(parent.container()),
-      serial_(next_serial()) {
+      serial_(next_serial()),
+      layer_(serial_) {
   window_->register_element(*this);
 }
 
 Element::~Element() { window_->unregister_element(*this); }
+
+void Element::bring_to_front() { layer_ = next_serial(); }
 
 bool Element::shown() const { return Visible && (container_ == nullptr || container_->shown()); }
 
@@ -85,6 +109,8 @@ bool Element::focusable() const {
   switch (kind_) {
   case ElementKind::Label:
     return static_cast<const Label*>(this)->Choosable;
+  case ElementKind::UpDown:
+    return static_cast<const UpDown*>(this)->Display != nullptr;
   case ElementKind::PictureBox:
   case ElementKind::Button:
   case ElementKind::CheckBox:
@@ -119,6 +145,7 @@ void Element::copy_design(const Element& design) {
   Border = design.Border;
   Enabled = design.Enabled;
   TabStop = design.TabStop;
+  DragAutomatic = design.DragAutomatic;
 }
 
 Label::Label(Parent parent, TextView name, Rect place, TextView caption)
@@ -184,7 +211,13 @@ TextBox::TextBox(Parent parent, TextView name, Rect place, TextView text)
 void TextBox::set_text(TextView text) {
   if (text_ == text) return;
   text_ = text;
+  all_selected_ = false;
   if (Change) Change();
+}
+
+void TextBox::select_all() {
+  all_selected_ = true;
+  ++selections_;
 }
 
 UpDown::UpDown(Parent parent, TextView name, Rect place, TextBox& buddy, Range range, int value)
@@ -192,15 +225,29 @@ UpDown::UpDown(Parent parent, TextView name, Rect place, TextBox& buddy, Range r
       Min(range.minimum),
       Max(range.maximum),
       Increment(range.increment),
-      Buddy(buddy),
+      Buddy(&buddy),
       value_(value) {
   buddy.Stepper = this;
-  buddy.set_text(to_text(value));
+  show_value();
+}
+
+UpDown::UpDown(Parent parent, TextView name, Rect place, Label& display, Range range, int value)
+    : Element(ElementKind::UpDown, parent, name, place, {}),
+      Min(range.minimum),
+      Max(range.maximum),
+      Increment(range.increment),
+      Display(&display),
+      value_(value) {
+  show_value();
 }
 
 int UpDown::clamped(int value) const { return std::max(Min, std::min(Max, value)); }
 
-void UpDown::show_value() { Buddy.set_text(Format ? Format(value_) : to_text(value_)); }
+void UpDown::show_value() {
+  const Text text = Format ? Format(value_) : to_text(value_);
+  if (Buddy != nullptr) Buddy->set_text(text);
+  if (Display != nullptr) Display->set_caption(text);
+}
 
 void UpDown::set_value(int value) {
   if (value < Min || value > Max) throw InvalidValue("up-down: the value is outside its range");
@@ -210,6 +257,23 @@ void UpDown::set_value(int value) {
   if (changed && Change) Change();
 }
 
+void UpDown::take_typed() {
+  int number = 0;
+  if (Buddy != nullptr && whole_number(Buddy->text(), number) && clamped(number) == number) set_value(number);
+}
+
+void UpDown::finish_typing() {
+  if (Buddy == nullptr || Buddy->Locked) return;
+  int number = 0;
+  if (!TextLimits) {
+    set_value(whole_number(Buddy->text(), number) ? clamped(number) : value());
+    return;
+  }
+  const int limited = std::max(TextLimits->minimum, std::min(TextLimits->maximum, leading_number(Buddy->text())));
+  set_value(clamped(limited));
+  Buddy->set_text(to_text(limited));
+}
+
 ListBox::ListBox(Parent parent, TextView name, Rect place) : ListBox(ElementKind::ListBox, parent, name, place) {}
 
 ListBox::ListBox(ElementKind kind, Parent parent, TextView name, Rect place) : Element(kind, parent, name, place, {}) {}
@@ -217,7 +281,7 @@ ListBox::ListBox(ElementKind kind, Parent parent, TextView name, Rect place) : E
 void ListBox::set_list_index(int index) {
   if (index < -1 || index >= count()) throw InvalidValue("list box: no entry has this index");
   list_index_ = index;
-  if (index >= 0 && Click) Click();
+  if (index >= 0 && !MultiSelect && Click) Click();
 }
 
 Text ListBox::selected() const { return list_index() < 0 ? Text() : Items[static_cast<std::size_t>(list_index())]; }
@@ -232,6 +296,46 @@ void ListBox::remove(int index) {
   Items.erase(Items.begin() + index);
   if (list_index_ == index) list_index_ = -1;
   if (list_index_ > index) --list_index_;
+  if (static_cast<std::size_t>(index) < several_.size()) several_.erase(several_.begin() + index);
+}
+
+void ListBox::clear() {
+  Items.clear();
+  list_index_ = -1;
+  several_.clear();
+}
+
+bool ListBox::is_selected(int index) const {
+  if (index < 0 || index >= count()) return false;
+  if (!MultiSelect) return index == list_index_;
+  return static_cast<std::size_t>(index) < several_.size() && several_[static_cast<std::size_t>(index)];
+}
+
+void ListBox::set_selected(int index, bool selected) {
+  if (index < 0 || index >= count()) throw InvalidValue("list box: no entry has this index");
+  std::vector<bool> wanted = selection();
+  wanted[static_cast<std::size_t>(index)] = selected;
+  set_selection(wanted);
+}
+
+std::vector<bool> ListBox::selection() const {
+  std::vector<bool> found = several_;
+  found.resize(Items.size(), false);
+  return found;
+}
+
+void ListBox::set_selection(const std::vector<bool>& selection) {
+  std::vector<bool> wanted = selection;
+  wanted.resize(Items.size(), false);
+  if (wanted == this->selection()) return;
+  several_ = std::move(wanted);
+  if (Click) Click();
+}
+
+int ListBox::selected_count() const {
+  if (!MultiSelect) return list_index() >= 0 ? 1 : 0;
+  const std::vector<bool> all = selection();
+  return static_cast<int>(std::count(all.begin(), all.end(), true));
 }
 
 FileListBox::FileListBox(Parent parent, TextView name, Rect place, TextView pattern)
@@ -273,8 +377,28 @@ Timer::Timer(Parent parent, TextView name, int interval, bool enabled)
   Enabled = enabled;
 }
 
-MenuItem::MenuItem(Parent parent, TextView name, TextView caption, int shortcut_key)
-    : Element(ElementKind::MenuItem, parent, name, {}, caption), ShortcutKey(shortcut_key) {}
+void Timer::restart() {
+  Enabled = true;
+  ++restarts_;
+}
+
+MenuItem::MenuItem(Parent parent, TextView name, TextView caption, int shortcut_key, int shortcut_shift)
+    : Element(ElementKind::MenuItem, parent, name, {}, caption),
+      ShortcutKey(shortcut_key),
+      ShortcutShift(shortcut_shift) {}
+
+Text shortcut_text(const MenuItem& item) {
+  const int code = item.ShortcutKey;
+  if (code == 0) return {};
+  Text text;
+  if ((item.ShortcutShift & shift::control) != 0) text += u"Ctrl+";
+  if ((item.ShortcutShift & shift::alt) != 0) text += u"Alt+";
+  if ((item.ShortcutShift & shift::shift) != 0) text += u"Shift+";
+  if (code >= key::f1) return text + u"F" + to_text(code - key::f1 + 1);
+  if (code == key::delete_) return text + u"Del";
+  if (code == key::insert) return text + u"Ins";
+  return text + static_cast<char16_t>(code);
+}
 
 Text without_mnemonic(TextView caption) {
   Text plain;

@@ -11,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <vector>
 
@@ -175,6 +176,11 @@ class Element {
   Element* container() const { return container_; }
   /// Differs for every element of the process, so that a machine never takes a new element for an old one.
   std::uint64_t serial() const { return serial_; }
+  /// Higher for what lies further to the front among the elements of one container. An element lies before all that
+  /// were created earlier until one of them is brought to the front.
+  std::uint64_t layer() const { return layer_; }
+  /// Brings it, with what it contains, before all other elements of its container. The order of Tab stays.
+  void bring_to_front();
 
   Text Name;
   int Index = -1; ///< Number within an element array, -1 for a single element.
@@ -196,6 +202,7 @@ class Element {
   cserko::Font Font;
 
   std::function<void()> Click;
+  std::function<void()> DblClick; ///< The second of two quick clicks; behind its `MouseDown`.
   std::function<void()> GotFocus;
   std::function<void()> LostFocus;
   std::function<void(const MouseEvent&)> MouseDown;
@@ -216,7 +223,8 @@ class Element {
   Point position_in_window() const;
   /// Moves it in one operation, twips.
   void move_to(double left, double top);
-  /// Takes over what an element of an array has of its design: text, tag, look, but not place and visibility.
+  /// Takes over what an element of an array has of its design: text, tag, look, ways of use, but not place and
+  /// visibility.
   void copy_design(const Element& design);
 
  private:
@@ -224,6 +232,7 @@ class Element {
   Window* window_;
   Element* container_;
   std::uint64_t serial_;
+  std::uint64_t layer_;
 };
 
 class Label : public Element {
@@ -298,6 +307,11 @@ class TextBox : public Element {
   const Text& text() const { return text_; }
   /// Runs `Change` where it changes the text.
   void set_text(TextView text);
+  /// Selects the whole text, so that typing replaces it. Another text is not selected.
+  void select_all();
+  bool all_selected() const { return all_selected_; }
+  /// Differs each time that the text has been selected.
+  int selections() const { return selections_; }
   bool Locked = false;
   bool Multiline = false;
   int MaxLength = 0;         ///< 0: no limit.
@@ -306,9 +320,12 @@ class TextBox : public Element {
 
  private:
   Text text_;
+  bool all_selected_ = false;
+  int selections_ = 0;
 };
 
-/// Steps a whole number up and down; the number stands in its buddy text box.
+/// Steps a whole number up and down; the number stands in its buddy text box or, where nothing is typed, in a label.
+/// With a label the up-down itself takes the keyboard focus.
 class UpDown : public Element {
  public:
   struct Range {
@@ -317,6 +334,7 @@ class UpDown : public Element {
     int increment = 1;
   };
   UpDown(Parent parent, TextView name, Rect place, TextBox& buddy, Range range, int value);
+  UpDown(Parent parent, TextView name, Rect place, Label& display, Range range, int value);
   int value() const { return value_; }
   /// Writes the number into the buddy and runs `Change` where it changes. Throws InvalidValue outside Min to Max.
   void set_value(int value);
@@ -325,23 +343,40 @@ class UpDown : public Element {
   int Min;
   int Max;
   int Increment;
-  TextBox& Buddy;
+  TextBox* Buddy = nullptr;
+  Label* Display = nullptr;
   std::function<void()> Change;
-  std::function<Text(int)> Format; ///< How the buddy shows the number; as decimal digits where it is not set.
-  /// Writes the number into the buddy.
+  std::function<Text(int)> Format; ///< How the number is shown; as decimal digits where it is not set.
+  /// What may stand in the buddy once it is left, where that is not the range: a typed number goes to the nearest of
+  /// these limits, a text that begins with no number counts as 0, and the up-down takes the nearest value of its range.
+  struct Limits {
+    int minimum = 0;
+    int maximum = 0;
+  };
+  std::optional<Limits> TextLimits;
+  /// Writes the number into the buddy or the label.
   void show_value();
+  /// Takes the number that stands in the buddy if its range allows it: the user is still typing.
+  void take_typed();
+  /// The user leaves the buddy: its text becomes a number within the limits.
+  void finish_typing();
 
  private:
   int value_;
 };
 
+/// A list of entries of which one is selected or, with `MultiSelect`, any number. There a click or a tap turns its
+/// entry over, one with Shift gives all entries from the last one touched that one's state; the arrows move the place
+/// of the keys, with Shift they select on their way, Space turns the entry there over and Ctrl+A selects all.
 class ListBox : public Element {
  public:
   ListBox(Parent parent, TextView name, Rect place);
   std::vector<Text> Items;
-  /// Index of the selected entry, -1 for none.
+  bool MultiSelect = false;
+  /// Index of the selected entry, -1 for none; with `MultiSelect` of the entry where the keys are.
   int list_index() const { return list_index_ < count() ? list_index_ : -1; }
-  /// Runs `Click` when an entry is selected, also the same one again. Throws InvalidValue for an index of no entry.
+  /// Runs `Click` when an entry is selected, also the same one again; with `MultiSelect` it selects nothing and runs
+  /// nothing. Throws InvalidValue for an index of no entry.
   void set_list_index(int index);
   int count() const { return static_cast<int>(Items.size()); }
   /// The selected entry, empty if none is.
@@ -350,12 +385,28 @@ class ListBox : public Element {
   int find(TextView text) const;
   /// Takes an entry out; the selection is lost if it was the selected one and follows its entry otherwise.
   void remove(int index);
+  /// Takes all entries out; nothing is selected then.
+  void clear();
+
+  /// Whether that entry is selected, with `MultiSelect` or without.
+  bool is_selected(int index) const;
+  /// With `MultiSelect`: selects one entry or takes its selection away; runs `Click` where that changes anything.
+  /// Throws InvalidValue for an index of no entry.
+  void set_selected(int index, bool selected);
+  /// With `MultiSelect`: for each entry whether it is selected.
+  std::vector<bool> selection() const;
+  /// With `MultiSelect`: the whole selection at once; runs `Click` once where that changes anything. Entries that the
+  /// selection does not reach are not selected.
+  void set_selection(const std::vector<bool>& selection);
+  /// How many entries are selected.
+  int selected_count() const;
 
  protected:
   ListBox(ElementKind kind, Parent parent, TextView name, Rect place);
 
  private:
   int list_index_ = -1;
+  std::vector<bool> several_; // as long as the last selection that was set; no entry behind it is selected
 };
 
 /// A list of the files of one folder that match a pattern.
@@ -417,17 +468,29 @@ class Timer : public Element {
   std::function<void()> Tick;
   bool InTick = false; ///< Kept by the machine: the handler is running.
   bool running() const { return Enabled && Interval > 0; }
+  /// Starts it, or starts it over: its whole interval lies before the next tick. Turning `Enabled` off and on again
+  /// within one event does not do that, since nobody looks in between.
+  void restart();
+  /// Differs each time that it has been started over.
+  int restarts() const { return restarts_; }
   /// What lies between two ticks, ms.
   int period() const { return Interval < 10 ? idle_pace : Interval; }
+
+ private:
+  int restarts_ = 0;
 };
 
 /// An entry of the menu bar or, inside another entry, of its menu. The caption "-" is a separator.
 class MenuItem : public Element {
  public:
-  MenuItem(Parent parent, TextView name, TextView caption, int shortcut_key = 0);
-  int ShortcutKey; ///< Key code that chooses it wherever the focus is, 0 for none.
+  MenuItem(Parent parent, TextView name, TextView caption, int shortcut_key = 0, int shortcut_shift = shift::none);
+  int ShortcutKey;   ///< Key code that chooses it wherever the focus is, 0 for none.
+  int ShortcutShift; ///< The shift mask that goes with the key.
   bool Checked = false;
 };
+
+/// The shortcut of an entry as the menu shows it: "Ctrl+U", "F1"; empty if it has none.
+Text shortcut_text(const MenuItem& item);
 
 /// The caption without its mnemonic marks: "&Fájl" gives "Fájl", "&&" gives "&".
 Text without_mnemonic(TextView caption);

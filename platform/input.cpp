@@ -8,6 +8,12 @@ namespace cserko::input {
 
 namespace {
 
+// What is hidden cannot keep the focus: it goes on to the next control, as by the Tab key.
+void leave_hidden_focus(Window& window) {
+  const Element* focused = window.focus();
+  if (window.Enabled && focused != nullptr && !focused->shown()) window.set_focus(next_focus(window, false));
+}
+
 // Every event of a window goes through its host, and the window keeps what is taken out of it until the event is over.
 void run(Window& window, const std::function<void()>& handler) {
   const auto counted = [&window, &handler] {
@@ -17,6 +23,7 @@ void run(Window& window, const std::function<void()>& handler) {
       ~Leave() { window.leave_event(); }
     } leave{window};
     handler();
+    leave_hidden_focus(window);
   };
   if (Host* host = window.platform().host; host != nullptr) {
     host->run_event(window, counted);
@@ -29,17 +36,6 @@ bool live(const Element& element) { return element.shown() && element.usable() &
 
 bool inside(const Element& element, const MouseEvent& event) {
   return event.x >= 0 && event.y >= 0 && event.x < element.Width && event.y < element.Height;
-}
-
-// The topmost shown element at a place of the window, other than the one given; null if there is none.
-Element* element_at(const Window& window, Point place, const Element* except) {
-  const auto& elements = window.elements();
-  const auto hit = std::find_if(elements.rbegin(), elements.rend(), [&](const Element* element) {
-    const Point corner = element->position_in_window();
-    return element != except && element->Width > 0 && element->shown() &&
-           inside(*element, {MouseButton::None, 0, place.x - corner.x, place.y - corner.y});
-  });
-  return hit == elements.rend() ? nullptr : *hit;
 }
 
 void drop(Element& source, const MouseEvent& event) {
@@ -75,9 +71,10 @@ template<class E, class Matches> E* first(const Window& window, ElementKind kind
 }
 
 bool choose_by_shortcut(Window& window, const KeyEvent& event) {
-  auto* item = first<MenuItem>(window, ElementKind::MenuItem,
-                               [&](const MenuItem& m) { return m.ShortcutKey != 0 && m.ShortcutKey == event.code; });
-  if (item == nullptr || event.shift != shift::none) return false;
+  auto* item = first<MenuItem>(window, ElementKind::MenuItem, [&](const MenuItem& m) {
+    return m.ShortcutKey != 0 && m.ShortcutKey == event.code && m.ShortcutShift == event.shift;
+  });
+  if (item == nullptr) return false;
   press(*item);
   return true;
 }
@@ -109,6 +106,10 @@ bool press_default(Window& window, const KeyEvent& event, const Element* focused
     button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Cancel; });
   }
   if (button == nullptr) return false;
+  // The button is to find in the box what leaving it would have made of it.
+  if (event.code == key::enter && focused != nullptr && focused->kind() == ElementKind::TextBox) {
+    if (UpDown* stepper = static_cast<const TextBox*>(focused)->Stepper) stepper->finish_typing();
+  }
   press(*button);
   return true;
 }
@@ -139,6 +140,74 @@ bool move_among_options(OptionButton& option, int code) {
   return true;
 }
 
+bool step_by_key(UpDown& updown, int code) {
+  if (code != key::up && code != key::down) return false;
+  updown.set_value(updown.clamped(updown.value() + (code == key::up ? 1 : -1) * updown.Increment));
+  return true;
+}
+
+// Selects the entries from the one touched last to this one, or takes their selection away, as that one's is.
+void extend_selection(ListBox& list, int index) {
+  const int anchor = std::max(0, list.list_index());
+  std::vector<bool> wanted = list.selection();
+  const bool selected = list.list_index() < 0 || list.is_selected(anchor);
+  for (int i = std::min(anchor, index); i <= std::max(anchor, index); ++i)
+    wanted[static_cast<std::size_t>(i)] = selected;
+  list.set_list_index(index);
+  list.set_selection(wanted);
+}
+
+void turn_over(ListBox& list, int index) {
+  list.set_list_index(index);
+  list.set_selected(index, !list.is_selected(index));
+}
+
+// The entry that a key leads to in a list, -1 for a key that leads nowhere.
+int entry_towards(const ListBox& list, int code) {
+  const double line = list.window().platform().measure(list.Font, u"Á").height;
+  const int page = std::max(1, static_cast<int>(list.Height / std::max(1.0, line)) - 1);
+  const int here = list.list_index();
+  const int last = list.count() - 1;
+  switch (code) {
+  case key::up:
+  case key::left:
+    return std::max(0, here - 1);
+  case key::down:
+  case key::right:
+    return std::min(last, here + 1);
+  case key::page_up:
+    return std::max(0, here - page);
+  case key::page_down:
+    return std::min(last, here + page);
+  case key::home:
+    return 0;
+  case key::end:
+    return last;
+  default:
+    return -1;
+  }
+}
+
+bool key_among_several(ListBox& list, const KeyEvent& event) {
+  if (list.count() == 0) return false;
+  if (event.code == key::space) {
+    turn_over(list, std::max(0, list.list_index()));
+    return true;
+  }
+  if (event.code == 'A' && event.shift == shift::control) {
+    list.set_selection(std::vector<bool>(list.Items.size(), true));
+    return true;
+  }
+  const int next = entry_towards(list, event.code);
+  if (next < 0) return false;
+  if ((event.shift & shift::shift) != 0) {
+    extend_selection(list, next);
+  } else {
+    list.set_list_index(next);
+  }
+  return true;
+}
+
 // What the focused control does with a key by itself. Returns whether it has used it.
 bool control_key(Element& element, const KeyEvent& event) {
   switch (element.kind()) {
@@ -158,24 +227,18 @@ bool control_key(Element& element, const KeyEvent& event) {
     return true;
   case ElementKind::TextBox: {
     UpDown* stepper = static_cast<TextBox&>(element).Stepper;
-    if (stepper == nullptr || (event.code != key::up && event.code != key::down)) return false;
-    stepper->set_value(stepper->clamped(stepper->value() + (event.code == key::up ? 1 : -1) * stepper->Increment));
-    return true;
+    return stepper != nullptr && step_by_key(*stepper, event.code);
+  }
+  case ElementKind::UpDown:
+    return step_by_key(static_cast<UpDown&>(element), event.code);
+  case ElementKind::ListBox:
+  case ElementKind::FileListBox: {
+    auto& list = static_cast<ListBox&>(element);
+    return list.MultiSelect && key_among_several(list, event);
   }
   default:
     return false;
   }
-}
-
-// The number that a text is, none if it is not a whole number of at most six digits.
-bool whole_number(TextView text, int& number) {
-  if (text.empty() || text.size() > 6) return false;
-  number = 0;
-  for (const char16_t digit : text) {
-    if (digit < u'0' || digit > u'9') return false;
-    number = number * 10 + (digit - u'0');
-  }
-  return true;
 }
 
 bool key_down_in_event(Window& window, KeyEvent& event) {
@@ -195,6 +258,18 @@ bool key_down_in_event(Window& window, KeyEvent& event) {
 
 } // namespace
 
+Element* element_at(const Window& window, Point place, const Element* except) {
+  const std::vector<Element*> elements = window.stacking();
+  const auto hit = std::find_if(elements.rbegin(), elements.rend(), [&](const Element* element) {
+    const ElementKind kind = element->kind();
+    const bool flat = kind == ElementKind::Line || kind == ElementKind::MenuItem || kind == ElementKind::Timer;
+    const Point corner = element->position_in_window();
+    return !flat && element != except && element->shown() &&
+           inside(*element, {MouseButton::None, 0, place.x - corner.x, place.y - corner.y});
+  });
+  return hit == elements.rend() ? nullptr : *hit;
+}
+
 void click(Element& element) {
   run(element.window(), [&element] {
     if (live(element)) press(element);
@@ -206,6 +281,14 @@ void mouse_down(Element& element, const MouseEvent& event) {
     if (!live(element)) return;
     if (element.focusable() && element.TabStop) element.window().set_focus(&element);
     if (element.MouseDown) element.MouseDown(event);
+  });
+}
+
+void double_click(Element& element, const MouseEvent& event) {
+  mouse_down(element, event);
+  if (!element.DblClick || event.button != MouseButton::Left) return;
+  run(element.window(), [&element] {
+    if (live(element)) element.DblClick();
   });
 }
 
@@ -267,20 +350,13 @@ void type(TextBox& box, TextView text) {
     if (!live(box) || box.Locked) return;
     const bool limited = box.MaxLength > 0 && text.size() > static_cast<std::size_t>(box.MaxLength);
     box.set_text(limited ? text.substr(0, static_cast<std::size_t>(box.MaxLength)) : text);
-    int number = 0;
-    const UpDown* stepper = box.Stepper;
-    if (stepper != nullptr && whole_number(text, number) && stepper->clamped(number) == number)
-      box.Stepper->set_value(number);
+    if (box.Stepper != nullptr) box.Stepper->take_typed();
   });
 }
 
 void finish_typing(TextBox& box) {
   if (box.Stepper == nullptr) return;
-  run(box.window(), [&box] {
-    int number = 0;
-    UpDown& stepper = *box.Stepper;
-    stepper.set_value(whole_number(box.text(), number) ? stepper.clamped(number) : stepper.value());
-  });
+  run(box.window(), [&box] { box.Stepper->finish_typing(); });
 }
 
 void step(UpDown& updown, int direction) {
@@ -289,9 +365,16 @@ void step(UpDown& updown, int direction) {
   });
 }
 
-void select(ListBox& list, int index) {
+void select(ListBox& list, int index, int shift) {
   run(list.window(), [&] {
-    if (live(list)) list.set_list_index(index);
+    if (!live(list)) return;
+    if (!list.MultiSelect) {
+      list.set_list_index(index);
+    } else if ((shift & shift::shift) != 0) {
+      extend_selection(list, index);
+    } else {
+      turn_over(list, index);
+    }
   });
 }
 
@@ -315,14 +398,32 @@ Element* next_focus(const Window& window, bool backwards) {
     if (!off_option) stops.push_back(element);
   }
   if (stops.empty()) return nullptr;
-  const auto here = std::find(stops.begin(), stops.end(), window.focus());
-  if (here == stops.end()) return backwards ? stops.back() : stops.front();
-  if (backwards) return here == stops.begin() ? stops.back() : *std::prev(here);
-  return std::next(here) == stops.end() ? stops.front() : *std::next(here);
+  // What has the focus may be no stop itself: serial numbers tell its place among them.
+  const Element* focus = window.focus();
+  if (backwards) {
+    const auto before = std::find_if(stops.rbegin(), stops.rend(), [&](const Element* e) {
+      return focus != nullptr && e->serial() < focus->serial();
+    });
+    return before == stops.rend() ? stops.back() : *before;
+  }
+  const auto behind = std::find_if(stops.begin(), stops.end(),
+                                   [&](const Element* e) { return focus == nullptr || e->serial() > focus->serial(); });
+  return behind == stops.end() ? stops.front() : *behind;
 }
 
 void close(Window& window) {
   if (Host* host = window.platform().host; host != nullptr && window.Enabled) host->close_request(window);
+}
+
+void place(Window& window, Rect place) {
+  run(window, [&] {
+    const bool resized = window.Width != place.width || window.Height != place.height;
+    window.Left = place.left;
+    window.Top = place.top;
+    window.Width = place.width;
+    window.Height = place.height;
+    if (resized) window.Resize();
+  });
 }
 
 void activate(Window& window) {

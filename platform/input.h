@@ -14,6 +14,10 @@ void click(Element& element);
 void mouse_down(Element& element, const MouseEvent& event);
 void mouse_move(Element& element, const MouseEvent& event);
 void mouse_up(Element& element, const MouseEvent& event);
+/// The second press of two quick clicks; comes in place of `mouse_down`.
+void double_click(Element& element, const MouseEvent& event);
+/// The topmost shown element at a place of the window (twips), other than the one given; null if there is none.
+Element* element_at(const Window& window, Point place, const Element* except = nullptr);
 
 /// The mouse on the window itself.
 void mouse_down(Window& window, const MouseEvent& event);
@@ -29,10 +33,12 @@ void key_up(Window& window, KeyEvent event);
 void toggle(CheckBox& box);
 void choose(OptionButton& option);
 void type(TextBox& box, TextView text);
-/// Leaving a text box brings the number of its up-down back if what was typed is none.
+/// Leaving a text box brings the number of its up-down back if what was typed is none, and a number beyond the limits
+/// to the nearest one.
 void finish_typing(TextBox& box);
 void step(UpDown& updown, int direction);
-void select(ListBox& list, int index);
+/// A click or tap on an entry of a list; the shift mask counts where several can be selected.
+void select(ListBox& list, int index, int shift = shift::none);
 void scroll(ScrollBar& bar, int value);
 /// The keyboard focus has moved.
 void focus(Element& element);
@@ -41,6 +47,8 @@ Element* next_focus(const Window& window, bool backwards);
 
 /// The window's close control.
 void close(Window& window);
+/// The user has moved the window or given it another size: its place on the screen with the frame, twips.
+void place(Window& window, Rect place);
 /// The window has come to the front.
 void activate(Window& window);
 /// A timer is due. It does not fire inside its own handler.

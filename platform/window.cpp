@@ -32,11 +32,33 @@ Element* Window::find(TextView name, int index) const {
   return found == elements_.end() ? nullptr : *found;
 }
 
+std::vector<Element*> Window::stacking() const {
+  std::map<const Element*, std::vector<Element*>> inside; // by their container
+  for (Element* element : elements_) inside[element->container()].push_back(element);
+  std::vector<Element*> order;
+  order.reserve(elements_.size());
+  const std::function<void(const Element*)> pile = [&](const Element* container) {
+    const auto found = inside.find(container);
+    if (found == inside.end()) return;
+    std::sort(found->second.begin(), found->second.end(),
+              [](const Element* a, const Element* b) { return a->layer() < b->layer(); });
+    for (Element* element : found->second) {
+      order.push_back(element);
+      pile(element);
+    }
+  };
+  pile(nullptr);
+  return order;
+}
+
 void Window::set_focus(Element* element) {
   if (element == focus_) return;
   if (element != nullptr && !(element->focusable() && element->shown() && element->usable())) return;
   Element* before = focus_;
   focus_ = element;
+  if (before != nullptr && before->kind() == ElementKind::TextBox) {
+    if (UpDown* stepper = static_cast<TextBox*>(before)->Stepper) stepper->finish_typing();
+  }
   if (before != nullptr && before->LostFocus) before->LostFocus();
   if (focus_ == element && element != nullptr && element->GotFocus) element->GotFocus();
 }

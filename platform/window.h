@@ -56,6 +56,8 @@ class Window {
   virtual void MouseDown(const MouseEvent&) {}
   virtual void MouseMove(const MouseEvent&) {}
   virtual void MouseUp(const MouseEvent&) {}
+  /// The user has given the window another size. What the window does to its size itself runs nothing.
+  virtual void Resize() {}
   /// Asked before unloading; setting the flag keeps the window.
   virtual void QueryUnload(bool& /*cancel*/) {}
   /// The last event of the window.
@@ -63,6 +65,8 @@ class Window {
 
   /// All elements in order of creation; grows and shrinks as element arrays load and unload.
   const std::vector<Element*>& elements() const { return elements_; }
+  /// All elements from the back to the front as they lie on each other: each before what contains it.
+  std::vector<Element*> stacking() const;
   /// The element of that name (and index), null if there is none.
   Element* find(TextView name, int index = -1) const;
 

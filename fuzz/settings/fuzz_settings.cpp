@@ -61,7 +61,7 @@ void check_element(const Element& element, State& state) {
   case ElementKind::UpDown: {
     const auto& updown = static_cast<const UpDown&>(element);
     require(updown.value() >= updown.Min && updown.value() <= updown.Max);
-    require(updown.Buddy.text() == (updown.Format ? updown.Format(updown.value()) : to_text(updown.value())));
+    require(updown.Buddy->text() == (updown.Format ? updown.Format(updown.value()) : to_text(updown.value())));
     state.values.push_back(updown.value());
     break;
   }

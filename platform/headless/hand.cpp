@@ -80,8 +80,10 @@ std::pair<int, int> key_of(char16_t character) {
 void type_into(TextBox& box, const KeyEvent& event) {
   Text text = box.text();
   if (event.code == key::backspace && !text.empty()) {
+    if (box.all_selected()) text.resize(1);
     text.pop_back();
   } else if (event.character != 0) {
+    if (box.all_selected()) text.clear();
     text.push_back(event.character);
   } else {
     return;
@@ -95,10 +97,7 @@ int arrow(int code) {
 }
 
 void move_focus(Window& window, bool backwards) {
-  Element* before = window.focus();
   if (Element* next = input::next_focus(window, backwards); next != nullptr) input::focus(*next);
-  if (before != nullptr && before->kind() == ElementKind::TextBox && window.focus() != before)
-    input::finish_typing(static_cast<TextBox&>(*before));
 }
 
 // What the machine does with a key that nobody has used.
@@ -163,18 +162,40 @@ void drag(Element& element, double dx, double dy) {
 
 void drag_to(Element& element, Point from, Point to_in_window) {
   constexpr int steps = 4;
+  const Point corner = element.position_in_window();
+  const Point way{to_in_window.x - corner.x - from.x, to_in_window.y - corner.y - from.y};
+  std::vector<Point> path{from};
+  for (int step = 1; step <= steps; ++step)
+    path.push_back({from.x + way.x * step / steps, from.y + way.y * step / steps});
+  draw(element, path);
+}
+
+void draw(Element& element, const std::vector<Point>& path, MouseButton button) {
   const Touched touched(element);
   const Point corner = element.position_in_window();
-  const Point start{corner.x + from.x, corner.y + from.y};
   // The mouse moves over the window; the element, which may follow it, sees it in its own coordinates.
-  const auto seen = [&](int step) -> Point {
+  const auto seen = [&](const Point& point) -> Point {
     const Point own = element.position_in_window();
-    return {start.x + (to_in_window.x - start.x) * step / steps - own.x,
-            start.y + (to_in_window.y - start.y) * step / steps - own.y};
+    return {corner.x + point.x - own.x, corner.y + point.y - own.y};
   };
-  press(element, from.x, from.y);
-  for (int step = 1; step <= steps && touched.there(); ++step) move(element, seen(step).x, seen(step).y);
-  if (touched.there()) release(element, seen(steps).x, seen(steps).y);
+  press(element, path.front().x, path.front().y, button);
+  for (std::size_t i = 1; i < path.size() && touched.there(); ++i) {
+    const Point place = seen(path[i]);
+    move(element, place.x, place.y, button);
+  }
+  if (!touched.there()) return;
+  const Point last = seen(path.back());
+  release(element, last.x, last.y, button);
+}
+
+void double_click(Element& element) {
+  const Touched touched(element);
+  const MouseEvent middle{MouseButton::Left, shift::none, element.Width / 2, element.Height / 2};
+  click(element, MouseButton::Left);
+  if (!touched.there()) return;
+  require_reach(element);
+  input::double_click(element, middle);
+  if (touched.there()) release(element, middle.x, middle.y);
 }
 
 void press(Element& element, double x, double y, MouseButton button, int shift) {
@@ -190,17 +211,7 @@ void release(Element& element, double x, double y, MouseButton button, int shift
   input::mouse_up(element, {button, shift, x, y});
 }
 
-Element* element_at(const Window& window, double x, double y) {
-  const auto& elements = window.elements();
-  const auto found = std::find_if(elements.rbegin(), elements.rend(), [x, y](const Element* element) {
-    const Point corner = element->position_in_window();
-    const bool flat = element->kind() == ElementKind::Line || element->kind() == ElementKind::MenuItem ||
-                      element->kind() == ElementKind::Timer;
-    return !flat && element->shown() && x >= corner.x && y >= corner.y && x < corner.x + element->Width &&
-           y < corner.y + element->Height;
-  });
-  return found == elements.rend() ? nullptr : *found;
-}
+Element* element_at(const Window& window, double x, double y) { return input::element_at(window, {x, y}); }
 
 void click_at(Window& window, double x, double y, MouseButton button, int shift) {
   require_front(window);
@@ -235,10 +246,10 @@ void write(TextBox& box, TextView text) {
   input::type(box, text);
 }
 
-void select(ListBox& list, int index) {
+void select(ListBox& list, int index, int shift) {
   require_reach(list);
   input::focus(list);
-  input::select(list, index);
+  input::select(list, index, shift);
 }
 
 void select(ListBox& list, TextView entry) {
@@ -261,6 +272,18 @@ void scroll(ScrollBar& bar, int value) {
 void close(Window& window) {
   require_front(window);
   input::close(window);
+}
+
+void move_window(Window& window, double left, double top) {
+  require_front(window);
+  if (window.Border == WindowBorder::None) throw OutOfReach(to_utf8(window.Name) + " has no title bar");
+  input::place(window, {left, top, window.Width, window.Height});
+}
+
+void resize_window(Window& window, double width, double height) {
+  require_front(window);
+  if (window.Border != WindowBorder::Sizable) throw OutOfReach(to_utf8(window.Name) + " cannot be resized");
+  input::place(window, {window.Left, window.Top, width, height});
 }
 
 } // namespace cserko::hand

@@ -20,11 +20,16 @@ namespace hand {
 void click(Element& element);
 /// The same with another button, or with keys held down.
 void click(Element& element, MouseButton button, int shift = shift::none);
+/// Two quick clicks in the middle of an element.
+void double_click(Element& element);
 
 /// Takes an element in its middle, moves it in steps by that distance (twips) and lets go.
 void drag(Element& element, double dx, double dy);
 /// Takes it at a place of its own and drags it to a place of its window (twips).
 void drag_to(Element& element, Point from, Point to_in_window);
+/// Draws freehand: presses at the first point, moves through all others and lets go at the last. The points are in the
+/// element's coordinates as it stands at the press (twips).
+void draw(Element& element, const std::vector<Point>& path, MouseButton button = MouseButton::Left);
 
 /// Single steps of the mouse, in the element's own coordinates (twips).
 void press(Element& element, double x, double y, MouseButton button = MouseButton::Left, int shift = shift::none);
@@ -44,12 +49,16 @@ void type(Window& window, TextView text);
 
 /// Puts the focus into a text box and replaces its text.
 void write(TextBox& box, TextView text);
-void select(ListBox& list, int index);
+void select(ListBox& list, int index, int shift = shift::none);
 void select(ListBox& list, TextView entry);
 void step(UpDown& updown, int direction);
 void scroll(ScrollBar& bar, int value);
 /// The window's close control.
 void close(Window& window);
+/// Takes the window by its title bar to a place of the screen (twips).
+void move_window(Window& window, double left, double top);
+/// Gives a window that can be resized another size, with its frame (twips).
+void resize_window(Window& window, double width, double height);
 
 } // namespace hand
 } // namespace cserko

@@ -30,9 +30,10 @@ void TimerQueue::compare(std::int64_t now) {
       auto& timer = static_cast<Timer&>(*element);
       if (!timer.running() || !timer.Tick) continue;
       const Entry* before = find(timer.serial());
-      const bool as_before = before != nullptr && before->period == timer.period();
-      entries.push_back(
-          {window, &timer, timer.serial(), timer.period(), as_before ? before->due : now + timer.period()});
+      const bool as_before =
+          before != nullptr && before->period == timer.period() && before->restarts == timer.restarts();
+      entries.push_back({window, &timer, timer.serial(), timer.period(), timer.restarts(),
+                         as_before ? before->due : now + timer.period()});
     }
   }
   entries_ = std::move(entries);

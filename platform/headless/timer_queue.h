@@ -37,6 +37,7 @@ class TimerQueue {
     Timer* timer; // only as good as the last `compare`: the timer may be gone since
     std::uint64_t serial;
     int period;
+    int restarts;
     std::int64_t due;
   };
 

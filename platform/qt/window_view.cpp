@@ -247,7 +247,7 @@ bool WindowView::sync_menu() {
     entry.caption = item.Caption;
     // The key stands beside the entry as text alone: keys are handled in one place for all controls.
     QString text = to_qt(item.Caption);
-    if (item.ShortcutKey >= key::f1) text += "\tF" + QString::number(item.ShortcutKey - key::f1 + 1);
+    if (const Text shortcut = shortcut_text(item); !shortcut.empty()) text += '\t' + to_qt(shortcut);
     if (!action.isSeparator()) action.setText(text);
     action.setEnabled(item.Enabled);
     action.setVisible(item.Visible);

@@ -59,7 +59,7 @@ TEST_F(MemorySettingsTest, HasItsRangesAndDefaults) {
     EXPECT_EQ(updown.Max, maximum) << utf8(updown.Name);
     EXPECT_EQ(updown.value(), value) << utf8(updown.Name);
     EXPECT_EQ(updown.Increment, 1) << utf8(updown.Name);
-    EXPECT_TRUE(updown.Buddy.Locked) << utf8(updown.Name);
+    EXPECT_TRUE(updown.Buddy->Locked) << utf8(updown.Name);
   };
   expect_range(d.szópárszám, 5, 18, 17);
   expect_range(d.udbetűméret, 4, 17, 12);

@@ -26,7 +26,7 @@ TEST_F(SyllabifierSettingsTest, HasItsTextsRangeAndDefaults) {
   EXPECT_EQ(d.udszótagszám.Max, 7);
   EXPECT_EQ(d.udszótagszám.Increment, 1);
   EXPECT_EQ(d.udszótagszám.value(), 2);
-  EXPECT_EQ(&d.udszótagszám.Buddy, &d.txt_szótagszám);
+  EXPECT_EQ(d.udszótagszám.Buddy, &d.txt_szótagszám);
   EXPECT_EQ(utf8(d.txt_szótagszám.text()), "2");
   EXPECT_EQ(d.chk_egyszótagúak_kizárva.value(), 0);
   for (const Element* element : {static_cast<Element*>(&d.udszótagszám), static_cast<Element*>(&d.txt_szótagszám),

@@ -92,6 +92,44 @@ TEST_F(Elements, OptionTurnsTheOthersOfItsContainerOffAndNobodyElse) {
   EXPECT_EQ(log, Log{"b"});
 }
 
+TEST_F(Elements, AMenuShowsTheShortcutOfItsEntry) {
+  EXPECT_EQ(shortcut_text(MenuItem(window, u"m", u"Kilépés")), u"");
+  EXPECT_EQ(shortcut_text(MenuItem(window, u"m", u"Súgó", key::f1)), u"F1");
+  EXPECT_EQ(shortcut_text(MenuItem(window, u"m", u"&Újrakezdi", 'U', shift::control)), u"Ctrl+U");
+  EXPECT_EQ(shortcut_text(MenuItem(window, u"m", u"x", key::f1 + 11, shift::shift | shift::control)),
+            u"Ctrl+Shift+F12");
+  EXPECT_EQ(shortcut_text(MenuItem(window, u"m", u"x", key::delete_)), u"Del");
+}
+
+TEST_F(Elements, AnArrayHearsOfDropsAndOfTheFocusThatGoes) {
+  ElementArray<PictureBox> places(window, u"places", Rect{0, 0, 900, 900});
+  places.load(1).move_to(2000, 0);
+  places[1].Visible = true;
+  PictureBox source(window, u"source", {0, 2000, 900, 900});
+  std::vector<int> dropped;
+  places.DragDrop = [&](int index, Element& from, double x, double) {
+    EXPECT_EQ(&from, &source);
+    EXPECT_EQ(x, 100);
+    dropped.push_back(index);
+  };
+  std::vector<int> left;
+  places.LostFocus = [&](int index) { left.push_back(index); };
+  source.DragAutomatic = true;
+  show();
+  hand::drag_to(source, {450, 450}, {2100, 100});
+  hand::drag_to(source, {450, 450}, {100, 100});
+  EXPECT_EQ(dropped, (std::vector<int>{1, 0}));
+  input::focus(places[1]);
+  input::focus(source);
+  EXPECT_EQ(left, (std::vector<int>{0, 1}));
+}
+
+TEST_F(Elements, WhatIsLoadedCanBeDraggedAsItsDesignCan) {
+  ElementArray<PictureBox> pictures(window, u"kép", Rect{0, 0, 900, 900});
+  pictures[0].DragAutomatic = true;
+  EXPECT_TRUE(pictures.load(1).DragAutomatic);
+}
+
 TEST_F(Elements, UpDownWritesItsNumberIntoTheBuddy) {
   TextBox buddy(window, u"txt", {});
   UpDown updown(window, u"ud", {}, buddy, {4, 12, 1}, 12);

@@ -111,6 +111,18 @@ TEST_F(Keys, AKeyThatClosesTheWindowGoesNoFurther) {
   EXPECT_EQ(log, Log{"window KeyDown 13"});
 }
 
+TEST_F(Keys, AMenuShortcutMayAskForCtrl) {
+  MenuItem again(window, u"mnu_fájl_újrakezd", u"&Újrakezdi", 'U', shift::control);
+  again.Click = noting("again");
+  show();
+  hand::key(window, 'U');
+  hand::key(window, 'U', shift::control | shift::shift);
+  hand::key(window, 'U', shift::control | shift::alt);
+  EXPECT_EQ(std::count(log.begin(), log.end(), "again"), 0);
+  hand::key(window, 'U', shift::control);
+  EXPECT_EQ(std::count(log.begin(), log.end(), "again"), 1);
+}
+
 TEST_F(Keys, AMenuShortcutWinsOverEverything) {
   MenuItem help(window, u"mnu_súgó_súgó", u"&Súgó", key::f1);
   help.Click = noting("help");
@@ -316,6 +328,110 @@ TEST_F(Stepper, AFinishedBuddyWithoutAnUpDownStaysAsItIs) {
   show();
   input::finish_typing(plain);
   EXPECT_EQ(plain.text(), u"abc");
+}
+
+TEST_F(Stepper, TheFocusTakenAwayByTheProgramMendsTheBuddyToo) {
+  other.Click = [this] { log.push_back(to_utf8(buddy.text())); };
+  show();
+  hand::write(buddy, u"99");
+  hand::click(other);
+  EXPECT_EQ(log, Log{"12"});
+}
+
+TEST_F(Stepper, EnterOnTheDefaultButtonFindsTheBuddyMended) {
+  other.Default = true;
+  other.Click = [this] { log.push_back(to_utf8(buddy.text())); };
+  show();
+  hand::write(buddy, u"1");
+  hand::key(window, key::enter);
+  EXPECT_EQ(log, (Log{"window KeyDown 13", "4", "window KeyUp 13"}));
+}
+
+TEST_F(Stepper, ABuddyMayHaveWiderLimitsThanItsUpDown) {
+  updown.TextLimits = {1, 20};
+  show();
+  hand::write(buddy, u"15");
+  EXPECT_EQ(updown.value(), 10) << "beyond its range";
+  hand::key(window, key::tab);
+  EXPECT_EQ(buddy.text(), u"15");
+  EXPECT_EQ(updown.value(), 12);
+  hand::write(buddy, u"25");
+  hand::key(window, key::tab);
+  EXPECT_EQ(buddy.text(), u"20");
+  hand::write(buddy, u"betű");
+  hand::key(window, key::tab);
+  EXPECT_EQ(buddy.text(), u"1") << "a text without a number counts as 0";
+  EXPECT_EQ(updown.value(), 4);
+  hand::write(buddy, u" 6 betű");
+  hand::key(window, key::tab);
+  EXPECT_EQ(buddy.text(), u"6");
+  EXPECT_EQ(updown.value(), 6);
+}
+
+TEST_F(Stepper, ALabelShowsTheNumberOfAnUpDownThatTakesTheFocusItself) {
+  Label shown(window, u"labszóhossz", {0, 1500, 900, 300});
+  UpDown length(window, u"udszóhossz", {900, 1500, 200, 300}, shown, {5, 14, 1}, 14);
+  int changes = 0;
+  length.Change = [&] { ++changes; };
+  show();
+  EXPECT_EQ(shown.Caption, u"14");
+  input::focus(length);
+  EXPECT_EQ(window.focus(), &length);
+  hand::key(window, key::down);
+  hand::step(length, -1);
+  EXPECT_EQ(shown.Caption, u"12");
+  hand::key(window, key::up);
+  EXPECT_EQ(length.value(), 13);
+  EXPECT_EQ(changes, 3);
+  input::focus(updown);
+  EXPECT_EQ(window.focus(), &length) << "one with a buddy leaves the focus to that";
+}
+
+TEST_F(Stepper, ASelectedTextIsReplacedByWhatIsTyped) {
+  show();
+  input::focus(buddy);
+  buddy.select_all();
+  hand::type(window, u"5");
+  EXPECT_EQ(buddy.text(), u"5");
+  hand::type(window, u"5");
+  EXPECT_EQ(buddy.text(), u"55") << "only the first key replaces";
+  buddy.select_all();
+  hand::key(window, key::backspace);
+  EXPECT_EQ(buddy.text(), u"");
+}
+
+// What is hidden.
+
+TEST_F(Keys, AHiddenElementDoesNotKeepTheFocus) {
+  Label first(window, u"first", {0, 0, 900, 300}, u"a");
+  Label second(window, u"second", {0, 400, 900, 300}, u"b");
+  Label third(window, u"third", {0, 800, 900, 300}, u"c");
+  first.Choosable = second.Choosable = third.Choosable = true;
+  second.Click = [&] { second.Visible = false; };
+  second.LostFocus = noting("lost");
+  third.GotFocus = noting("got");
+  show();
+  input::focus(second);
+  hand::key(window, key::space);
+  EXPECT_EQ(window.focus(), &third) << "as the Tab key would go on";
+  EXPECT_EQ(log, (Log{"window KeyDown 32", "lost", "got", "window KeyUp 32"}));
+  third.Visible = false;
+  hand::key(window, 'X');
+  EXPECT_EQ(window.focus(), &text) << "round to the first control";
+}
+
+TEST_F(Keys, WhatIsHiddenAndShownWithinOneEventKeepsTheFocus) {
+  Label letter(window, u"letter", {0, 400, 900, 300}, u"b");
+  letter.Choosable = true;
+  letter.LostFocus = noting("lost");
+  letter.Click = [&] {
+    letter.Visible = false;
+    letter.Visible = true;
+  };
+  show();
+  input::focus(letter);
+  hand::key(window, key::space);
+  EXPECT_EQ(window.focus(), &letter);
 }
 
 // Lists and scroll bars.

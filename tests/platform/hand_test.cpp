@@ -84,6 +84,27 @@ TEST_F(HandTest, ChoosesMenuEntriesThatHaveNoPlace) {
   EXPECT_EQ(log.size(), 1U);
 }
 
+TEST_F(HandTest, DrawsFreehandWithAnyButton) {
+  std::vector<Point> points;
+  const auto note = [&](const MouseEvent& event) {
+    EXPECT_EQ(event.button, MouseButton::Right);
+    points.push_back({event.x, event.y});
+  };
+  letter.MouseDown = letter.MouseMove = letter.MouseUp = note;
+  show();
+  hand::draw(letter, {{10, 20}, {500, -40}, {700, 900}}, MouseButton::Right);
+  EXPECT_EQ(points, (std::vector<Point>{{10, 20}, {500, -40}, {700, 900}, {700, 900}}));
+}
+
+TEST_F(HandTest, TwoQuickClicksAreADoubleClick) {
+  letter.Click = noting("click");
+  letter.DblClick = noting("double");
+  letter.MouseDown = [this](const MouseEvent&) { log.push_back("down"); };
+  show();
+  hand::double_click(letter);
+  EXPECT_EQ(log, (Log{"down", "click", "down", "double", "click"}));
+}
+
 TEST_F(HandTest, ClicksAtAPlaceWhateverLiesUppermost) {
   letter.Click = noting("letter");
   frame.MouseDown = [this](const MouseEvent& event) {

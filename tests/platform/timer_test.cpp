@@ -72,6 +72,35 @@ TEST_F(Timers, ANewIntervalSetFromOutsideStartsOver) {
   EXPECT_EQ(times, std::vector<std::int64_t>{350});
 }
 
+TEST_F(Timers, StartOverWithinOneEvent) {
+  Timer timer(window, u"Timer1", 100);
+  timer.Tick = noting_time();
+  platform.advance(60);
+  timer.restart();
+  platform.advance(150);
+  EXPECT_EQ(times, std::vector<std::int64_t>{160});
+  timer.Enabled = false;
+  timer.Enabled = true;
+  platform.advance(60);
+  EXPECT_EQ(times, (std::vector<std::int64_t>{160, 260})) << "nobody has looked in between";
+  timer.Enabled = false;
+  platform.advance(40);
+  timer.restart();
+  platform.advance(100);
+  EXPECT_EQ(times, (std::vector<std::int64_t>{160, 260, 410})) << "it starts one that is off";
+}
+
+TEST_F(Timers, StartOverInTheirOwnHandler) {
+  Timer timer(window, u"Timer1", 100);
+  timer.Tick = [&] {
+    times.push_back(platform.now());
+    platform.next_frame(window);
+    timer.restart();
+  };
+  platform.advance(250);
+  EXPECT_EQ(times, (std::vector<std::int64_t>{100, 216}));
+}
+
 TEST_F(Timers, TheShortestIntervalsAreIdleWork) {
   Timer timer(window, u"Timer1", 1);
   timer.Tick = noting_time();

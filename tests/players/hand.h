@@ -11,9 +11,12 @@ class Hand {
   virtual ~Hand() = default;
 
   /// Clicks an element in its middle.
-  virtual void click(Element& element) = 0;
+  virtual void click(Element& element, MouseButton button = MouseButton::Left) = 0;
   /// Takes an element in its middle, moves it by that distance (twips) and lets go.
   virtual void drag(Element& element, double dx, double dy) = 0;
+  /// Draws freehand: presses at the first point, moves through all others and lets go at the last. The points are in
+  /// the element's coordinates as it stands at the press (twips).
+  virtual void draw(Element& element, const std::vector<Point>& path, MouseButton button = MouseButton::Left) = 0;
   /// Presses and releases a key in the window at the front: its code and the shift mask.
   virtual void key(int code, int shift) = 0;
 };

@@ -38,7 +38,7 @@ TEST_F(ScrambledSettingsTest, HasItsTextsAndDefaults) {
   EXPECT_EQ(d.udbetszám.Min, 4);
   EXPECT_EQ(d.udbetszám.Max, 12);
   EXPECT_EQ(d.udbetszám.Increment, 1);
-  EXPECT_EQ(&d.udbetszám.Buddy, &d.txtbetszám);
+  EXPECT_EQ(d.udbetszám.Buddy, &d.txtbetszám);
   EXPECT_EQ(options(d), (std::vector<bool>{false, true, false}));
   EXPECT_EQ(d.chk_ismételt_keverés_engedélyezése.value(), 0);
   EXPECT_EQ(d.chk_szórendezés_engedélyezés.value(), 1);

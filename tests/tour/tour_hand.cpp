@@ -9,22 +9,29 @@
 
 namespace cserko::tour {
 
-void TourHand::click(Element& element) {
-  if (element.kind() == ElementKind::Button) {
+void TourHand::click(Element& element, MouseButton button) {
+  if (element.kind() == ElementKind::Button && button == MouseButton::Left) {
     input::click(element);
   } else {
-    drag(element, 0, 0);
+    draw(element, {{element.Width / 2, element.Height / 2}}, button);
   }
 }
 
 void TourHand::drag(Element& element, double dx, double dy) {
-  const auto at = [&](double part) {
-    return MouseEvent{MouseButton::Left, shift::none, element.Width / 2 + part * dx, element.Height / 2 + part * dy};
+  const Point middle{element.Width / 2, element.Height / 2};
+  draw(element, {middle, {middle.x + dx, middle.y + dy}});
+}
+
+void TourHand::draw(Element& element, const std::vector<Point>& path, MouseButton button) {
+  const Point corner = element.position_in_window();
+  const auto seen = [&](const Point& point) {
+    const Point own = element.position_in_window();
+    return MouseEvent{button, shift::none, corner.x + point.x - own.x, corner.y + point.y - own.y};
   };
-  input::mouse_down(element, at(0));
-  if (dx != 0 || dy != 0) input::mouse_move(element, at(1));
+  input::mouse_down(element, seen(path.front()));
   // The press may have taken the window away.
-  if (window_.visible()) input::mouse_up(element, at(1));
+  for (std::size_t i = 1; i < path.size() && window_.visible(); ++i) input::mouse_move(element, seen(path[i]));
+  if (window_.visible()) input::mouse_up(element, seen(path.back()));
 }
 
 void TourHand::key(int code, int shift) {

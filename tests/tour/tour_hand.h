@@ -9,8 +9,9 @@ class TourHand : public Hand {
  public:
   explicit TourHand(Window& window) : window_(window) {}
 
-  void click(Element& element) override;
+  void click(Element& element, MouseButton button = MouseButton::Left) override;
   void drag(Element& element, double dx, double dy) override;
+  void draw(Element& element, const std::vector<Point>& path, MouseButton button = MouseButton::Left) override;
   void key(int code, int shift) override;
 
  private:

@@ -43,6 +43,18 @@ std::uint32_t symbol_of(int code) {
   throw std::runtime_error("the hand has no key for the code " + std::to_string(code));
 }
 
+// Buttons of the server.
+int number_of(MouseButton button) {
+  switch (button) {
+  case MouseButton::Right:
+    return 3;
+  case MouseButton::Middle:
+    return 2;
+  default:
+    return 1;
+  }
+}
+
 bool is_press(QEvent::Type type) { return type == QEvent::MouseButtonPress || type == QEvent::KeyPress; }
 
 } // namespace
@@ -53,22 +65,30 @@ XHand::XHand(Place place) : place_(std::move(place)) {
   since_last_.start();
 }
 
-void XHand::click(Element& element) {
-  then_press(place_(element, {element.Width / 2, element.Height / 2}));
-  then_release();
+void XHand::click(Element& element, MouseButton button) {
+  then_press(place_(element, {element.Width / 2, element.Height / 2}), button);
+  then_release(button);
 }
 
 void XHand::drag(Element& element, double dx, double dy) {
   const Point middle{element.Width / 2, element.Height / 2};
-  const Spot from = place_(element, middle);
-  const QPoint way = place_(element, {middle.x + dx, middle.y + dy}).place - from.place;
-  then_press(from);
-  for (int step = 1; step <= drag_steps; ++step) {
-    then({.act = [this, from, way, step] {
-      if (from.window != nullptr) input_.move(from.window->mapToGlobal(from.place + way * step / drag_steps));
+  std::vector<Point> path{middle};
+  for (int step = 1; step <= drag_steps; ++step)
+    path.push_back({middle.x + dx * step / drag_steps, middle.y + dy * step / drag_steps});
+  draw(element, path);
+}
+
+void XHand::draw(Element& element, const std::vector<Point>& path, MouseButton button) {
+  // The element may follow the mouse: its place at the press counts.
+  const Spot from = place_(element, path.front());
+  then_press(from, button);
+  for (std::size_t i = 1; i < path.size(); ++i) {
+    const QPoint place = place_(element, path[i]).place;
+    then({.act = [this, from, place] {
+      if (from.window != nullptr) input_.move(from.window->mapToGlobal(place));
     }});
   }
-  then_release();
+  then_release(button);
 }
 
 void XHand::key(int code, int shift) {
@@ -99,14 +119,14 @@ void XHand::then(Action action) {
   timer_.start(pace);
 }
 
-void XHand::then_press(const Spot& spot) {
+void XHand::then_press(const Spot& spot, MouseButton button) {
   then({.ready = [this, spot] { return aim(spot); },
-        .act = [this] { input_.button(1, true); },
+        .act = [this, button] { input_.button(number_of(button), true); },
         .heard_as = QEvent::MouseButtonPress});
 }
 
-void XHand::then_release() {
-  then({.act = [this] { input_.button(1, false); }, .heard_as = QEvent::MouseButtonRelease});
+void XHand::then_release(MouseButton button) {
+  then({.act = [this, button] { input_.button(number_of(button), false); }, .heard_as = QEvent::MouseButtonRelease});
 }
 
 void XHand::then_key(std::uint32_t symbol, bool down) {

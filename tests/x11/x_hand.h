@@ -24,8 +24,9 @@ class XHand : public QObject, public Hand {
 
   explicit XHand(Place place);
 
-  void click(Element& element) override;
+  void click(Element& element, MouseButton button = MouseButton::Left) override;
   void drag(Element& element, double dx, double dy) override;
+  void draw(Element& element, const std::vector<Point>& path, MouseButton button = MouseButton::Left) override;
   /// Letters, digits, and the keys that have no character of their own.
   void key(int code, int shift) override;
 
@@ -48,8 +49,8 @@ class XHand : public QObject, public Hand {
   };
 
   void then(Action action);
-  void then_press(const Spot& spot);
-  void then_release();
+  void then_press(const Spot& spot, MouseButton button);
+  void then_release(MouseButton button);
   void then_key(std::uint32_t symbol, bool down);
   bool aim(const Spot& spot);
   bool still_awaiting();
