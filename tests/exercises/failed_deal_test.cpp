@@ -176,33 +176,5 @@ TEST_F(FailedDealTest, TheTemplateHasNoNames) {
   EXPECT_TRUE(window.has_puzzle());
 }
 
-TEST_F(FailedDealTest, AFailureOfAnyKindEndsThePuzzleAndReachesTheReport) {
-  struct Broken : ExerciseWindow {
-    explicit Broken(Session& session) : ExerciseWindow(session, u"broken", {1500, 1500}, u"Broken") {
-      new_task.Click = [this] { beáll(); };
-    }
-    MenuItem new_task{*this, u"new_task", u"New"};
-    bool file_there = true;
-    int cleared = 0;
-    void beáll() {
-      deal([this] {
-        if (!file_there) throw FileError("the word list is gone");
-      });
-    }
-
-   protected:
-    void no_puzzle() override { ++cleared; }
-  };
-  start();
-  auto& window = open<Broken>();
-  hand::click(window.new_task);
-  EXPECT_TRUE(window.has_puzzle());
-  window.file_there = false;
-  hand::click(window.new_task);
-  EXPECT_FALSE(window.has_puzzle());
-  EXPECT_EQ(window.cleared, 1);
-  expected_errors = 1;
-}
-
 } // namespace
 } // namespace cserko
