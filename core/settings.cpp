@@ -96,6 +96,9 @@ void write_line(SettingsWriter& writer, const ScrollBar* bar) { writer.number(ba
 void write_line(SettingsWriter& writer, const OptionButton* option) { writer.word(option->value()); }
 void write_line(SettingsWriter& writer, const TextBox* box) { writer.quoted(box->text()); }
 void write_line(SettingsWriter& writer, const OppositeOptions& options) { writer.word(options.stored->value()); }
+void write_line(SettingsWriter& writer, const SelectedEntries& entries) {
+  for (const bool selected : entries.list->selection()) writer.word(selected);
+}
 void write_line(SettingsWriter& writer, const StoredNumber& number) { writer.number(number.value()); }
 void write_line(SettingsWriter& writer, const WindowPlace& place) {
   const Window& window = *place.window;
@@ -134,6 +137,14 @@ void read_line(LineReader& lines, const OppositeOptions& options) {
   if (!word) return;
   options.stored->set_value(*word);
   options.opposite->set_value(!*word);
+}
+
+void read_line(LineReader& lines, const SelectedEntries& entries) {
+  std::vector<bool> selection = entries.list->selection();
+  for (auto&& selected : selection) {
+    if (const auto word = next_word(lines)) selected = *word;
+  }
+  entries.list->set_selection(selection);
 }
 
 void read_line(LineReader& lines, const StoredNumber& stored) {

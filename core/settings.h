@@ -39,6 +39,12 @@ struct OppositeOptions {
   OptionButton* opposite;
 };
 
+/// For each entry of a list with several selections whether it is selected, a word a line. The list has its entries
+/// before the file is read.
+struct SelectedEntries {
+  ListBox* list;
+};
+
 /// A number that no control holds.
 struct StoredNumber {
   std::function<int()> value;
@@ -54,8 +60,8 @@ struct WindowPlace {
 
 /// What the lines of a file stand for: a number (up-down, check box, scroll bar), a word (option), a quoted text (text
 /// box), or one of the above.
-using SettingsField =
-    std::variant<UpDown*, CheckBox*, OptionButton*, ScrollBar*, TextBox*, OppositeOptions, StoredNumber, WindowPlace>;
+using SettingsField = std::variant<UpDown*, CheckBox*, OptionButton*, ScrollBar*, TextBox*, OppositeOptions,
+                                   SelectedEntries, StoredNumber, WindowPlace>;
 
 /// Fields in the order of their file.
 class SettingsFields {

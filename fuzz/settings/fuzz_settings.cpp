@@ -111,7 +111,11 @@ void check_sounds(const frm_hangbeáll& dialog, const Files& files) {
 
 // One field of each kind, as a dialog without a window of its own would hold them.
 struct Controls : Window {
-  explicit Controls(Platform& platform) : Window(platform, u"controls", {1000, 1000}, u"") {}
+  explicit Controls(Platform& platform) : Window(platform, u"controls", {1000, 1000}, u"") {
+    letter.MaxLength = 3;
+    pairs.MultiSelect = true;
+    pairs.Items = {u"i-í", u"o-ó", u"ö-ő"};
+  }
   Frame group{*this, u"group", {}};
   TextBox text{*this, u"text", {}};
   UpDown updown{*this, u"updown", {}, text, {-20, 400, 1}, 7};
@@ -127,17 +131,17 @@ struct Controls : Window {
   OptionButton stored{*this, u"stored", {}, u"", true};
   OptionButton opposite{*this, u"opposite", {}, u""};
   ScrollBar bar{*this, u"bar", {}, 1, 5};
+  ListBox pairs{*this, u"pairs", {}};
   int language = 2;
 
   SettingsFields fields() {
-    letter.MaxLength = 3;
     return SettingsFields({&updown, &first, &second, &box, &shortest, &longest, &letter,
                            OppositeOptions{&stored, &opposite}, &bar,
                            StoredNumber{[this] { return language; },
                                         [this](int number) {
                                           if (number == 2 || number == 4) language = number;
                                         }},
-                           WindowPlace{this}});
+                           WindowPlace{this}, SelectedEntries{&pairs}});
   }
 };
 
@@ -146,6 +150,7 @@ State state_of(const Controls& controls) {
   for (const double value : {controls.Left, controls.Top, controls.Width, controls.Height})
     state.values.push_back(static_cast<int>(value));
   state.values.push_back(controls.language);
+  for (const bool selected : controls.pairs.selection()) state.values.push_back(selected ? 1 : 0);
   return state;
 }
 

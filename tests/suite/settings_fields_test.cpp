@@ -39,7 +39,10 @@ class ReversedDialog : public SettingsDialog {
 
 // A field of each kind.
 struct Kinds : Window {
-  explicit Kinds(Platform& platform) : Window(platform, u"kinds", {3000, 2000}, u"Kinds") {}
+  explicit Kinds(Platform& platform) : Window(platform, u"kinds", {3000, 2000}, u"Kinds") {
+    pairs.MultiSelect = true;
+    pairs.Items = {u"i-í", u"o-ó", u"ö-ő"};
+  }
   Frame group{*this, u"group", {0, 0, 1000, 1000}};
   OptionButton yes{group, u"yes", {0, 0, 500, 300}, u"yes"};
   OptionButton no{group, u"no", {0, 400, 500, 300}, u"no", true};
@@ -48,8 +51,10 @@ struct Kinds : Window {
   TextBox txt_count{*this, u"txt_count", {0, 1800, 500, 300}};
   UpDown count{*this, u"count", {500, 1800, 300, 300}, txt_count, {-5, 12, 1}, 7};
   CheckBox box{*this, u"box", {0, 2200, 500, 300}, u"box"};
+  ListBox pairs{*this, u"pairs", {0, 2600, 500, 900}};
   int language = 2;
 
+  SettingsFields entries() { return SettingsFields({SelectedEntries{&pairs}, &box}); }
   SettingsFields options() { return SettingsFields({OppositeOptions{&yes, &no}}); }
   SettingsFields text() { return SettingsFields({&letter}); }
   SettingsFields updown() { return SettingsFields({&count}); }
@@ -99,6 +104,37 @@ TEST_F(SettingsKindsTest, ADamagedLineLeavesBothOppositeOptions) {
     EXPECT_EQ(after(&Kinds::options, line), "True\r\n") << line;
     EXPECT_FALSE(kinds.no.value()) << line;
   }
+}
+
+TEST_F(SettingsKindsTest, EachEntryOfAListHasItsLine) {
+  EXPECT_EQ(after(&Kinds::entries, "True\r\nFalse\r\nTrue\r\n 2 \r\n"), "True\r\nFalse\r\nTrue\r\n 2 \r\n");
+  EXPECT_EQ(kinds.pairs.selection(), (std::vector<bool>{true, false, true}));
+  EXPECT_EQ(after(&Kinds::entries, "False\r\nTrue\r\nFalse\r\n 0 \r\n"), "False\r\nTrue\r\nFalse\r\n 0 \r\n");
+}
+
+TEST_F(SettingsKindsTest, ADamagedOrMissingLineLeavesItsEntryAlone) {
+  after(&Kinds::entries, "True\nFalse\nTrue\n");
+  EXPECT_EQ(after(&Kinds::entries, "False\r\nperhaps\r\n 1 \r\n 2 \r\n"), "False\r\nFalse\r\nTrue\r\n 2 \r\n");
+  EXPECT_EQ(after(&Kinds::entries, "True\r\n"), "True\r\nFalse\r\nTrue\r\n 2 \r\n");
+  EXPECT_EQ(after(&Kinds::entries, ""), "True\r\nFalse\r\nTrue\r\n 2 \r\n");
+}
+
+TEST_F(SettingsKindsTest, AListIsToldOnceThatItsSelectionHasChanged) {
+  int clicks = 0;
+  kinds.pairs.Click = [&clicks] { ++clicks; };
+  after(&Kinds::entries, "True\nTrue\nTrue\n");
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(SettingsKindsTest, NotedEntriesOfAListThatHasGrownShorterAreTakenBackAsFarAsItGoes) {
+  after(&Kinds::entries, "True\nFalse\nTrue\n");
+  const NotedFields before({&kinds.box, SelectedEntries{&kinds.pairs}});
+  kinds.pairs.clear();
+  kinds.pairs.Items = {u"b-d"};
+  kinds.box.set_value(2);
+  before.take_back();
+  EXPECT_EQ(kinds.pairs.selection(), std::vector<bool>{true});
+  EXPECT_EQ(kinds.box.value(), 0);
 }
 
 TEST_F(SettingsKindsTest, ATextStandsBetweenQuotationMarks) {
