@@ -63,6 +63,7 @@ void QtPlatform::act(const std::function<void()>& deed) {
   if (!ended_) {
     if (std::exchange(was_deaf_, false)) drop_queued_input();
     sync_all();
+    make_up_for_ticks();
   }
   leave_finished_loops();
 }
@@ -82,10 +83,36 @@ void QtPlatform::run_loop(const std::function<bool()>& done) {
 
 void QtPlatform::drop_queued_input() {
   // What the user did while an animation ran must not take effect behind it.
-  quiet_ = true;
-  QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
-  QCoreApplication::processEvents();
-  quiet_ = false;
+  let_paint(QEventLoop::ExcludeSocketNotifiers);
+  let_paint(QEventLoop::AllEvents);
+}
+
+void QtPlatform::let_paint(QEventLoop::ProcessEventsFlags events) {
+  const bool before = std::exchange(quiet_, true);
+  QCoreApplication::processEvents(events);
+  quiet_ = before;
+}
+
+void QtPlatform::tick(Timer& timer) {
+  if (timer.InTick) return;
+  if (quiet_) {
+    missed_ticks_.insert(timer.serial());
+  } else {
+    act([&timer] { input::tick(timer); });
+  }
+}
+
+// A timer that ran out while nothing reached the suite ticks once when the deed is over, as timers do whose program was
+// busy.
+void QtPlatform::make_up_for_ticks() {
+  for (const std::uint64_t serial : std::exchange(missed_ticks_, {})) {
+    QMetaObject::invokeMethod(
+        this,
+        [this, serial] {
+          if (const auto entry = timers_.find(serial); entry != timers_.end()) tick(*entry->second.model);
+        },
+        Qt::QueuedConnection);
+  }
 }
 
 void QtPlatform::sync_all() {
@@ -115,9 +142,8 @@ void QtPlatform::sync_timers() {
     if (!entry.timer) {
       entry.timer.reset(new QTimer);
       entry.timer->setTimerType(Qt::PreciseTimer);
-      connect(entry.timer.get(), &QTimer::timeout, this, [this, timer = timer] {
-        if (!timer->InTick) act([timer] { input::tick(*timer); });
-      });
+      entry.model = timer;
+      connect(entry.timer.get(), &QTimer::timeout, this, [this, timer = timer] { tick(*timer); });
     }
     entry.period = timer->period();
     entry.timer->start(entry.period);
@@ -320,11 +346,7 @@ void QtPlatform::bring_to_front(Window& window) {
 }
 
 void QtPlatform::paint_now(WindowView& view) {
-  if (!view.windowHandle()->isExposed()) {
-    quiet_ = true;
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    quiet_ = false;
-  }
+  if (!view.windowHandle()->isExposed()) let_paint(QEventLoop::ExcludeUserInputEvents);
   QCoreApplication::sendPostedEvents(&view, QEvent::UpdateRequest);
 }
 
@@ -346,6 +368,8 @@ void QtPlatform::redraw(Window& window) {
 void QtPlatform::next_frame(Window& window) {
   was_deaf_ = was_deaf_ || !window.Enabled;
   show_changes(window);
+  // A wait may last for seconds: what other windows uncover is painted, and the desktop sees that the program lives.
+  let_paint(QEventLoop::ExcludeUserInputEvents);
   const qint64 passed = frame_.elapsed();
   if (passed < frame_ms) QThread::msleep(static_cast<unsigned long>(frame_ms - passed));
   frame_.restart();

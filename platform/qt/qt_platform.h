@@ -13,6 +13,7 @@
 #include <QTimer>
 #include <random>
 #include <unordered_map>
+#include <unordered_set>
 
 namespace cserko {
 
@@ -85,6 +86,7 @@ class QtPlatform : public QObject, public Platform {
   };
   struct RunningTimer {
     std::unique_ptr<QTimer, DeleteLater> timer;
+    Timer* model = nullptr;
     int period = 0;
   };
   /// An event loop that runs until its condition holds, which is looked at after every deed.
@@ -96,6 +98,10 @@ class QtPlatform : public QObject, public Platform {
   void run_loop(const std::function<bool()>& done);
   void leave_finished_loops();
   void sync_timers();
+  void tick(Timer& timer);
+  void make_up_for_ticks();
+  /// Lets the events of the window system happen that are not for the suite.
+  void let_paint(QEventLoop::ProcessEventsFlags events);
   WindowView* live_view(const QObject* object) const;
   WindowView* view_that_hears(const QObject* object) const;
   bool key_press(WindowView& view, QKeyEvent& event);
@@ -126,6 +132,7 @@ class QtPlatform : public QObject, public Platform {
   std::vector<RunningLoop> loops_;
   std::unordered_map<const Window*, std::unique_ptr<WindowView>> views_;
   std::unordered_map<std::uint64_t, RunningTimer> timers_;
+  std::unordered_set<std::uint64_t> missed_ticks_; ///< Timers that ran out while the machine was quiet.
   bool quiet_ = false;    ///< Events are let through for painting alone: nothing reaches the suite.
   bool was_deaf_ = false; ///< An animation ran while its window took no input.
   bool reporting_ = false;

@@ -151,6 +151,39 @@ TEST_F(Timing, TenFramesAreSeenAsTenFrames) {
   EXPECT_GE(machine->now() - start, 9 * 16);
 }
 
+TEST_F(Timing, ATimerThatRanOutWhileTheWindowWasDeafTicksOnceBehindIt) {
+  constexpr int interval = 400;
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  Timer timer(window, u"tmr", interval);
+  int ticks = 0;
+  timer.Tick = [&] { ++ticks; };
+  label.Click = [&] {
+    const std::int64_t end = machine->now() + interval + 100;
+    window.Enabled = false;
+    while (machine->now() < end) machine->next_frame(window);
+    window.Enabled = true;
+    EXPECT_EQ(ticks, 0);
+  };
+  show(window);
+  click(label);
+  // The next tick of its own would come much later.
+  QCoreApplication::processEvents();
+  EXPECT_EQ(ticks, 1);
+  EXPECT_TRUE(wait_for([&] { return ticks == 2; })) << "and then it goes on";
+}
+
+TEST_F(Timing, WhatIsUncoveredDuringAWaitIsPainted) {
+  NotingWindow window(*machine);
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  show(window);
+  machine->next_frame(window);
+  Paints paints(widget(label));
+  widget(label).update();
+  machine->next_frame(window);
+  EXPECT_EQ(paints.count, 1);
+}
+
 TEST_F(Timing, PumpingEndsWhenItsConditionHolds) {
   NotingWindow window(*machine);
   Timer timer(window, u"tmr", 10);
