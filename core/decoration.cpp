@@ -28,12 +28,8 @@ void LineDrawing::start() {
 }
 
 void LineDrawing::choose_figure(PictureBox& dísz) {
-  take_figure(dísz);
-  dísz.canvas().clear();
-}
-
-void LineDrawing::take_figure(PictureBox& dísz) {
   alak = static_cast<std::int16_t>(random_below(platform_, figures));
+  dísz.canvas().clear();
   dísz.Tag.clear();
 }
 
@@ -46,9 +42,9 @@ void LineDrawing::tick(PictureBox& dísz) {
     lépés = 0;
     szürke = static_cast<std::int16_t>(rounded(szürke + szürke_lépés));
     if (szürke < 0 || szürke > 256) {
-      // Figures 7 and 8 grow one curve and are left by a click alone. The white pass has just taken the old figure
-      // away, so that nothing needs clearing.
-      if (szürke > 256 && alak < 7 && random_below(platform_, 6) == 5) take_figure(dísz);
+      // Figures 7 and 8 grow one curve and are left by a click alone. The panel is cleared: white lines over dark ones
+      // leave their smoothed edges grey.
+      if (szürke > 256 && alak < 7 && random_below(platform_, 6) == 5) choose_figure(dísz);
       szürke_lépés = -szürke_lépés;
       szürke = static_cast<std::int16_t>(szürke + 2 * szürke_lépés);
     }

@@ -12,8 +12,7 @@ class LineDrawing {
 
   /// Starts anew with a random figure.
   void start();
-  /// Draws one step into the box. A change of figure by the drawing itself comes after the white pass, in which the old
-  /// figure has gone, and clears nothing.
+  /// Draws one step into the box. After the white pass the drawing may change its figure by itself.
   void tick(PictureBox& dísz);
   /// Takes a random figure and clears the box.
   void choose_figure(PictureBox& dísz);
@@ -30,7 +29,6 @@ class LineDrawing {
   static constexpr int figures = 9;
 
  private:
-  void take_figure(PictureBox& dísz);
   void draw(PictureBox& dísz);
   void string_art(Canvas& canvas) const;
   void ellipses(Canvas& canvas) const;
