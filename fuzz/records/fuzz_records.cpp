@@ -45,7 +45,7 @@ void check_record(const Records& records, int index) {
 void put_files(MemoryFiles& files, std::string_view bytes) {
   for (int number = 0; number < 16; ++number) {
     const std::size_t end = bytes.find('\0');
-    files.put(u"c:\\kepek\\" + to_text(number) + u".wms", bytes.substr(0, end));
+    files.put(u"c:\\cserko\\kepek\\" + to_text(number) + u".wms", bytes.substr(0, end));
     if (end == std::string_view::npos) return;
     bytes.remove_prefix(end + 1);
   }
@@ -61,7 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   MemoryFiles files;
   put_files(files, bytes);
   Records records;
-  records.load(files, u"c:\\");
+  records.load(files, u"c:\\cserko\\");
   for (int index = 0; index <= records.képszám; ++index) check_record(records, index);
   return 0;
 }

@@ -1,5 +1,7 @@
 #include "platform/headless/memory_files.h"
 
+#include "platform/suite_path.h"
+
 namespace cserko {
 
 namespace {
@@ -28,6 +30,12 @@ bool matches(TextView name, TextView pattern) {
   return matches(name.substr(1), pattern.substr(1));
 }
 
+// The one form of a path within the suite's two folders; empty for one that leads out of them, where nothing is.
+Text inside(const Text& path) {
+  const auto led_to = suite_path(path);
+  return led_to ? led_to->text() : Text();
+}
+
 [[noreturn]] void fail(TextView what, const Text& path) { throw FileError(to_utf8(Text(what) + u": " + path)); }
 
 } // namespace
@@ -50,7 +58,7 @@ const MemoryFiles::File* MemoryFiles::find(const Text& path) const {
 }
 
 std::vector<Text> MemoryFiles::list(const Text& pattern) const {
-  const Text wanted = folded(pattern);
+  const Text wanted = folded(inside(pattern));
   const TextView folder = TextView(wanted).substr(0, folder_length(wanted));
   const TextView name_pattern = bare_name(wanted);
   std::vector<Text> names;
@@ -62,10 +70,11 @@ std::vector<Text> MemoryFiles::list(const Text& pattern) const {
   return names;
 }
 
-bool MemoryFiles::exists(const Text& path) const { return find(path) != nullptr; }
+bool MemoryFiles::exists(const Text& path) const { return find(inside(path)) != nullptr; }
 
-std::optional<std::string> MemoryFiles::read(const Text& path) const {
+std::optional<std::string> MemoryFiles::read(const Text& given) const {
   ++reads_;
+  const Text path = inside(given);
   const File* file = find(path);
   if (file == nullptr || unreadable_.count(folded(path)) != 0) return std::nullopt;
   return file->bytes;
@@ -78,8 +87,10 @@ bool MemoryFiles::writable(const Text& folded_path) const {
   return true;
 }
 
-void MemoryFiles::write(const Text& path, std::string_view bytes) {
+void MemoryFiles::write(const Text& given, std::string_view bytes) {
+  const Text path = inside(given);
   const Text key = folded(path);
+  if (path.empty()) fail(u"Ide nem lehet írni", given);
   if (folders_.count(key.substr(0, folder_length(key))) == 0) fail(u"A mappa nem létezik", path);
   if (folders_.count(key) != 0 || !writable(key)) fail(u"A fájl nem írható", path);
   if (free_space && bytes.size() > *free_space) fail(u"Megtelt a lemez", path);
@@ -87,10 +98,12 @@ void MemoryFiles::write(const Text& path, std::string_view bytes) {
   const std::size_t freed = before == nullptr ? 0 : before->bytes.size();
   if (free_space) *free_space += freed - bytes.size();
   store(path, bytes);
+  if (watch) watch(u"write", path);
 }
 
 void MemoryFiles::make_folder(const Text& path) {
-  const Text key = folded(path);
+  const Text key = folded(inside(path));
+  if (key.empty()) fail(u"Ide nem lehet írni", path);
   if (folders_.count(key) != 0) return;
   if (folders_.count(key.substr(0, folder_length(key))) == 0 || index_.count(key) != 0 || !writable(key))
     fail(u"A mappa nem hozható létre", path);
@@ -99,8 +112,10 @@ void MemoryFiles::make_folder(const Text& path) {
 
 void MemoryFiles::remove(const Text& path) {
   if (!exists(path)) fail(u"A fájl nem létezik", path);
-  if (!writable(folded(path))) fail(u"A fájl nem törölhető", path);
-  take(path);
+  const Text there = inside(path);
+  if (!writable(folded(there))) fail(u"A fájl nem törölhető", path);
+  take(there);
+  if (watch) watch(u"remove", there);
 }
 
 void MemoryFiles::put(const Text& path, std::string_view bytes) {

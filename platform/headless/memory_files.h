@@ -8,8 +8,9 @@
 
 namespace cserko {
 
-/// Folders and files by the system's own paths. Names are compared without case, doubled backslashes count as one, and
-/// the order in which files were made is the order in which the file system lists them.
+/// Folders and files by the system's own paths, below its two folders; a test can put files anywhere, but the suite
+/// finds none elsewhere. Names are compared without case, doubled backslashes count as one, and the order in which
+/// files were made is the order in which the file system lists them.
 class MemoryFiles : public Files {
  public:
   MemoryFiles();
@@ -20,6 +21,9 @@ class MemoryFiles : public Files {
   void write(const Text& path, std::string_view bytes) override;
   void make_folder(const Text& path) override;
   void remove(const Text& path) override;
+
+  /// Told of each file that the suite writes or removes, behind the deed: "write" or "remove", and its path.
+  std::function<void(TextView deed, const Text& path)> watch;
 
   // What a test does to the disk. None of this fails or counts as done by the suite.
 

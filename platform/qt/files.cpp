@@ -1,6 +1,7 @@
 #include "platform/qt/files.h"
 
 #include "platform/qt/qt_text.h"
+#include "platform/suite_path.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,14 +19,6 @@ QString fold(const QString& name) { return name.normalized(QString::Normalizatio
 
 QString folder_of(const QString& path) { return path.left(path.lastIndexOf('/')); }
 
-// Slashes instead of backslashes, no doubled ones, composed accents.
-QString normalized(const Text& path) {
-  QString text = to_qt(path).normalized(QString::NormalizationForm_C);
-  text.replace('\\', '/');
-  while (text.contains("//")) text.replace("//", "/");
-  return text;
-}
-
 [[noreturn]] void fail(const QString& what, const Text& path) {
   throw FileError((what + ": " + to_qt(path)).toStdString());
 }
@@ -39,10 +32,14 @@ QtFiles::QtFiles(QString pack, QString user)
 
 QString QtFiles::find_pack() {
   const QString beside = QCoreApplication::applicationDirPath();
-  const QStringList candidates{qEnvironmentVariable("CSERKO_PACK_DIR"), beside + "/pack", beside + "/../pack",
-                               beside + "/../share/cserko/pack"};
-  for (const QString& candidate : candidates) {
-    if (!candidate.isEmpty() && QFileInfo(candidate + "/kepek").isDir()) return QDir::cleanPath(candidate);
+  const QString chosen = qEnvironmentVariable("CSERKO_PACK_DIR");
+  if (!chosen.isEmpty() && QFileInfo(chosen).isDir()) return QDir::cleanPath(chosen);
+  // A pack without records is one too, but no reason to overlook a whole one.
+  for (const char* sign : {"/kepek", "/cserko"}) {
+    for (const char* place : {"/pack", "/../pack", "/../share/cserko/pack"}) {
+      const QString candidate = beside + place;
+      if (QFileInfo(candidate + sign).isDir()) return QDir::cleanPath(candidate);
+    }
   }
   return {};
 }
@@ -54,14 +51,10 @@ QString QtFiles::find_user_folder() {
 }
 
 QtFiles::Place QtFiles::place_of(const Text& path) const {
-  const QString text = normalized(path);
-  const QString application = normalized(Text(logical_application_folder));
-  const auto below = [&](const QString& root) { return text.mid(root.size()); };
-  if (text.startsWith(application, Qt::CaseInsensitive)) return {application_roots_, below(application)};
-  const QString fixed = "c:/pomzu";
-  if (text.compare(fixed, Qt::CaseInsensitive) == 0) return {{user_}, {}};
-  if (text.startsWith(fixed + '/', Qt::CaseInsensitive)) return {{user_}, below(fixed + '/')};
-  return {};
+  const auto led_to = suite_path(from_qt(to_qt(path).normalized(QString::NormalizationForm_C)));
+  if (!led_to) return {};
+  const bool application = led_to->root == SuitePath::Root::Application;
+  return {application ? application_roots_ : QStringList(user_), to_qt(led_to->below).replace('\\', '/')};
 }
 
 const QtFiles::Listing& QtFiles::listing(const QString& folder) const {
@@ -119,7 +112,7 @@ QString QtFiles::real_path(const Text& path) const {
   QString found = find(path);
   if (!found.isEmpty()) return found;
   const Place place = place_of(path);
-  return place.roots.isEmpty() ? normalized(path) : place.roots.back() + '/' + place.below;
+  return place.roots.isEmpty() ? QString() : place.roots.back() + '/' + place.below;
 }
 
 std::vector<Text> QtFiles::list(const Text& pattern) const {

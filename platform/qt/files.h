@@ -18,7 +18,7 @@ class QtFiles : public Files {
   /// `pack` is the data pack, `user` the folder for everything the suite writes. Both are native paths.
   QtFiles(QString pack, QString user);
 
-  /// The pack beside the program or under its prefix, or where the environment says; empty if there is none.
+  /// The pack beside the program or under its prefix, or any folder that the environment names; empty if there is none.
   static QString find_pack();
   /// The user's own folder, or where the environment says.
   static QString find_user_folder();
@@ -26,6 +26,7 @@ class QtFiles : public Files {
   const QString& pack() const { return pack_; }
 
   /// The real path behind a path of the suite: of the file that is there, or else of the one that would be written.
+  /// Empty for a path that leads out of the pack and the user's folder.
   QString real_path(const Text& path) const;
 
   std::vector<Text> list(const Text& pattern) const override;

@@ -19,15 +19,15 @@ TEST_F(MemoryFilesTest, NamesAreComparedWithoutCaseAndWithSingleBackslashes) {
 }
 
 TEST_F(MemoryFilesTest, AFolderIsListedByPatternInOrderOfInsertion) {
-  files.put(u"c:\\k\\2.wms", "");
-  files.put(u"c:\\k\\10.WMS", "");
-  files.put(u"c:\\k\\1.wmf", "");
-  files.put(u"c:\\k\\sub\\3.wms", "");
-  files.put(u"c:\\k\\1.wms", "");
-  files.put(u"c:\\k\\2.wms", "again");
-  EXPECT_EQ(files.list(u"c:\\k\\*.wms"), (std::vector<Text>{u"2.wms", u"10.WMS", u"1.wms"}));
-  EXPECT_EQ(files.list(u"c:\\k\\?.wm*"), (std::vector<Text>{u"2.wms", u"1.wmf", u"1.wms"}));
-  EXPECT_TRUE(files.list(u"c:\\nincs\\*.*").empty());
+  files.put(u"c:\\cserko\\k\\2.wms", "");
+  files.put(u"c:\\cserko\\k\\10.WMS", "");
+  files.put(u"c:\\cserko\\k\\1.wmf", "");
+  files.put(u"c:\\cserko\\k\\sub\\3.wms", "");
+  files.put(u"c:\\cserko\\k\\1.wms", "");
+  files.put(u"c:\\cserko\\k\\2.wms", "again");
+  EXPECT_EQ(files.list(u"c:\\cserko\\k\\*.wms"), (std::vector<Text>{u"2.wms", u"10.WMS", u"1.wms"}));
+  EXPECT_EQ(files.list(u"c:\\cserko\\k\\?.wm*"), (std::vector<Text>{u"2.wms", u"1.wmf", u"1.wms"}));
+  EXPECT_TRUE(files.list(u"c:\\cserko\\nincs\\*.*").empty());
 }
 
 TEST_F(MemoryFilesTest, WritingNeedsTheFolder) {
@@ -43,11 +43,11 @@ TEST_F(MemoryFilesTest, WritingNeedsTheFolder) {
 }
 
 TEST_F(MemoryFilesTest, AFullDiskLeavesTheOldFileWhole) {
-  files.put(u"c:\\a.ini", "old");
+  files.put(u"c:\\pomzu\\a.ini", "old");
   files.free_space = 5;
-  EXPECT_THROW(files.write(u"c:\\a.ini", "longer"), FileError);
-  EXPECT_EQ(files.read(u"c:\\a.ini"), "old");
-  files.write(u"c:\\a.ini", "12345");
+  EXPECT_THROW(files.write(u"c:\\pomzu\\a.ini", "longer"), FileError);
+  EXPECT_EQ(files.read(u"c:\\pomzu\\a.ini"), "old");
+  files.write(u"c:\\pomzu\\a.ini", "12345");
   EXPECT_EQ(*files.free_space, 3U) << "the old bytes are free again";
 }
 
@@ -65,18 +65,35 @@ TEST_F(MemoryFilesTest, ReadOnlyPlacesRefuseEverythingBelow) {
 }
 
 TEST_F(MemoryFilesTest, AnUnreadableFileExistsAndCannotBeRead) {
-  files.put(u"c:\\a.wms", "x");
-  files.make_unreadable(u"c:\\A.wms");
-  EXPECT_TRUE(files.exists(u"c:\\a.wms"));
-  EXPECT_EQ(files.read(u"c:\\a.wms"), std::nullopt);
+  files.put(u"c:\\cserko\\a.wms", "x");
+  files.make_unreadable(u"c:\\cserko\\A.wms");
+  EXPECT_TRUE(files.exists(u"c:\\cserko\\a.wms"));
+  EXPECT_EQ(files.read(u"c:\\cserko\\a.wms"), std::nullopt);
 }
 
 TEST_F(MemoryFilesTest, DeletingKeepsTheOthersInTheirPlaces) {
-  for (const TextView name : {u"c:\\1.x", u"c:\\2.x", u"c:\\3.x"}) files.put(Text(name), to_utf8(name));
-  files.remove(u"c:\\2.x");
-  EXPECT_THROW(files.remove(u"c:\\2.x"), FileError);
-  EXPECT_EQ(files.read(u"c:\\3.x"), "c:\\3.x");
-  EXPECT_EQ(files.list(u"c:\\*.x"), (std::vector<Text>{u"1.x", u"3.x"}));
+  for (const TextView name : {u"c:\\cserko\\1.x", u"c:\\cserko\\2.x", u"c:\\cserko\\3.x"})
+    files.put(Text(name), to_utf8(name));
+  files.remove(u"c:\\cserko\\2.x");
+  EXPECT_THROW(files.remove(u"c:\\cserko\\2.x"), FileError);
+  EXPECT_EQ(files.read(u"c:\\cserko\\3.x"), "c:\\cserko\\3.x");
+  EXPECT_EQ(files.list(u"c:\\cserko\\*.x"), (std::vector<Text>{u"1.x", u"3.x"}));
+}
+
+TEST_F(MemoryFilesTest, NothingOutsideTheTwoFoldersIsReadWrittenOrDeleted) {
+  files.put(u"c:\\titok\\a.wav", "x");
+  files.put(u"c:\\cserko\\hangok\\b.wav", "b");
+  for (const Text& path : {Text(u"c:\\titok\\a.wav"), Text(u"c:\\cserko\\hangok\\..\\..\\titok\\a.wav"),
+                           Text(u"c:\\cserko\\hangok\\../../titok/a.wav")}) {
+    EXPECT_FALSE(files.exists(path)) << to_utf8(path);
+    EXPECT_EQ(files.read(path), std::nullopt) << to_utf8(path);
+    EXPECT_THROW(files.write(path, "y"), FileError) << to_utf8(path);
+    EXPECT_THROW(files.remove(path), FileError) << to_utf8(path);
+  }
+  EXPECT_TRUE(files.list(u"c:\\cserko\\..\\titok\\*.*").empty());
+  EXPECT_THROW(files.make_folder(u"c:\\cserko\\..\\más"), FileError);
+  EXPECT_EQ(files.all(), (std::vector<Text>{u"c:\\titok\\a.wav", u"c:\\cserko\\hangok\\b.wav"}));
+  EXPECT_EQ(files.read(u"c:\\cserko\\kepek\\..\\hangok\\b.wav"), "b");
 }
 
 TEST_F(MemoryFilesTest, ErrorsNameTheFile) {

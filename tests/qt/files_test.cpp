@@ -120,6 +120,27 @@ TEST_F(RealFiles, ListingTakesThePatternWithoutRegardToCase) {
   EXPECT_THAT(files->list(u"c:\\cserko\\kepek\\*.*"), UnorderedElementsAre(u"alma.wms", u"CICA.WMS", u"alma.wmf"));
 }
 
+TEST_F(RealFiles, NothingOutsideThePackAndTheUsersFolderIsReadWrittenOrDeleted) {
+  const QString secret = user() + "/../titok.wav";
+  put(secret, "titok");
+  put(pack() + "/hangok/a.wav", "hang");
+  put(user() + "/cserko/a.ini", "1");
+  for (const Text& path :
+       {Text(u"c:\\pomzu\\..\\titok.wav"), Text(u"c:\\pomzu\\cserko\\..\\..\\titok.wav"),
+        Text(u"c:\\cserko\\hangok\\..\\..\\titok.wav"), Text(u"c:\\cserko\\hangok\\../../titok.wav"),
+        secret.toStdU16String(), u"c:\\cserko\\hangok\\" + secret.toStdU16String() + u"\\..\\..\\..\\..\\x"}) {
+    EXPECT_FALSE(files->exists(path)) << to_utf8(path);
+    EXPECT_EQ(files->read(path), std::nullopt) << to_utf8(path);
+    EXPECT_EQ(files->real_path(path), QString()) << to_utf8(path);
+    EXPECT_THROW(files->write(path, "x"), FileError) << to_utf8(path);
+    EXPECT_THROW(files->remove(path), FileError) << to_utf8(path);
+  }
+  EXPECT_THAT(files->list(u"c:\\pomzu\\..\\*.wav"), IsEmpty());
+  EXPECT_THROW(files->make_folder(u"c:\\pomzu\\..\\mappa"), FileError);
+  EXPECT_EQ(content(secret), "titok");
+  EXPECT_EQ(files->read(u"c:\\cserko\\kepek\\..\\hangok\\a.wav"), "hang") << "within the folders a path is a path";
+}
+
 TEST_F(RealFiles, AFolderThatIsNotThereHasNoFiles) {
   EXPECT_THAT(files->list(u"c:\\cserko\\nincs\\*.wms"), IsEmpty());
   EXPECT_THAT(files->list(u"d:\\*.*"), IsEmpty());
@@ -240,6 +261,13 @@ TEST_F(RealFiles, TheEnvironmentChoosesBothFolders) {
   qputenv("CSERKO_USER_DIR", (user() + "/").toUtf8());
   EXPECT_EQ(QtFiles::find_pack(), pack());
   EXPECT_EQ(QtFiles::find_user_folder(), user());
+}
+
+TEST_F(RealFiles, APackWithoutRecordsIsAPack) {
+  QDir(pack() + "/kepek").removeRecursively();
+  ASSERT_TRUE(QDir().mkpath(pack()));
+  qputenv("CSERKO_PACK_DIR", pack().toUtf8());
+  EXPECT_EQ(QtFiles::find_pack(), pack());
 }
 
 TEST_F(RealFiles, ManyFilesAreReadAsTheyAre) {
