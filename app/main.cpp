@@ -4,16 +4,14 @@
 #include "platform/qt/qt_platform.h"
 
 #include <QApplication>
-#include <cstdio>
 
 int main(int argc, char** argv) {
   using namespace cserko;
   const QApplication application(argc, argv);
   QtPlatform platform;
   if (!platform.has_pack()) {
-    std::fputs("A Cserkó adatcsomagja hiányzik: nem található sem a program mellett, sem a telepítés mappájában.\n"
-               "The data pack of Cserkó is missing: it lies neither beside the program nor where it was installed.\n",
-               stderr);
+    platform.report_error(u"A Cserkó adatcsomagja hiányzik: nem található sem a program mellett, sem a telepítés "
+                          u"mappájában.\r\nKérem, telepítse újra a programot!");
     return 1;
   }
   platform.set_window_icon(platform.application_folder() + u"cserko\\cserko-icon.png");

@@ -76,5 +76,6 @@ function(cserko_test name)
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE cserko_test_main ${arg_LIBRARIES} cserko_test_options cserko_warnings)
   cserko_reuse(${name} cserko_test_main)
-  gtest_discover_tests(${name})
+  # No test takes longer, sanitizers and a busy machine included: one that does is caught in a loop.
+  gtest_discover_tests(${name} PROPERTIES TIMEOUT 120)
 endfunction()

@@ -1,6 +1,7 @@
 #include "core/frm_főablak.h"
 
 #include "core/exercise_table.h"
+#include "core/finally.h"
 #include "core/frame.h"
 #include "core/frm_referencia.h"
 #include "core/frmháttér.h"
@@ -186,10 +187,12 @@ void frm_főablak::rest_decoration() {
 }
 
 void frm_főablak::indítás(TextView exercise) {
+  const Finally go_on([this] {
+    rest_decoration();
+    Timer1.Interval = 1;
+  });
   Timer1.Interval = 0;
   run_on_backdrop(session_, [this, exercise]() -> Window& { return session_.window(exercise); });
-  rest_decoration();
-  Timer1.Interval = 1;
 }
 
 void frm_főablak::cmd_játék_click(int index) {
@@ -201,15 +204,15 @@ void frm_főablak::cmd_játék_click(int index) {
 }
 
 void frm_főablak::főablak_beállításai() {
+  const Finally go_on([this] { Timer1.Enabled = true; });
   Timer1.Enabled = false;
   platform().show_modal(settings());
-  Timer1.Enabled = true;
   if (!settings().chk_grafikus_főablak.ticked() || !session_.offers(u"frm_grafikus_főablak")) return;
+  // Loaded before this window goes: where that fails, the person still has one.
+  Window& graphic = session_.window(u"frm_grafikus_főablak");
   platform().hide(*this);
-  Timer1.Enabled = false;
-  platform().show_modal(session_.window(u"frm_grafikus_főablak"));
+  platform().show_modal(graphic);
   rest_decoration();
-  Timer1.Enabled = true;
   if (settings().chk_grafikus_főablak.ticked()) {
     kilépés();
   } else {
@@ -219,12 +222,16 @@ void frm_főablak::főablak_beállításai() {
 
 void frm_főablak::zenebeállítások() {
   Timer& music_timer = session_.window<frm_referencia>().Timer_zene;
+  bool music_goes_on = music_timer.Enabled;
+  const Finally go_on([&] {
+    Timer1.Enabled = true;
+    music_timer.Enabled = music_goes_on;
+  });
   music_timer.Enabled = false;
   Timer1.Enabled = false;
   session_.feedback.zene_lejátszás({});
   platform().show_modal(session_.window(u"frm_zenebeáll"));
-  Timer1.Enabled = true;
-  music_timer.Enabled = session_.ticked(u"frm_zenebeáll", u"chk_zene_enged");
+  music_goes_on = session_.ticked(u"frm_zenebeáll", u"chk_zene_enged");
 }
 
 void frm_főablak::free_reward(TextView window, TextView closing_timer) {

@@ -21,9 +21,10 @@ void frmháttér::Load() {
   const auto& reference = session_.window<frm_referencia>();
   Picture = reference.Picture;
   BackColor = reference.BackColor;
-  const Size screen = platform().screen_size();
-  Left = 0;
-  Top = 0;
+  // Panels of the desktop are covered too: nothing but the exercise is there for the child to click at.
+  const Rect screen = platform().whole_screen();
+  Left = screen.left;
+  Top = screen.top;
   Width = screen.width;
   Height = screen.height;
 }

@@ -13,9 +13,8 @@ namespace cserko {
 
 namespace {
 
-Text explain(const std::exception& error, const Window& window) {
-  return u"Hiba történt itt: " + (window.Caption.empty() ? window.Name : window.Caption) + u"\r\n" +
-         from_utf8(error.what());
+Text explain(const std::exception& error, const Text& place) {
+  return u"Hiba történt itt: " + place + u"\r\n" + from_utf8(error.what());
 }
 
 } // namespace
@@ -93,16 +92,25 @@ void Session::take_away(Window& window) {
 void Session::run_event(Window& window, const std::function<void()>& handler) {
   if (platform_.ended()) return;
   ++event_depth_;
+  platform_.event_begins();
+  run_guarded([&window] { return window.Caption.empty() ? window.Name : window.Caption; }, handler);
+  bury_the_dead(event_depth_);
+  --event_depth_;
+}
+
+void Session::run_guarded(const std::function<Text()>& place, const std::function<void()>& deed) {
   try {
-    handler();
+    deed();
   } catch (const NothingFits& unfit) {
     feedback.tell(unfit.message());
   } catch (const WindowGone&) { // NOLINT(bugprone-empty-catch): the handler has ended with its window
   } catch (const std::exception& error) {
-    platform_.report_error(explain(error, window));
+    platform_.report_error(explain(error, place()));
   }
-  bury_the_dead(event_depth_);
-  --event_depth_;
+}
+
+void Session::run_start_step(const std::function<void()>& step) {
+  run_guarded([] { return u"a program indulása"; }, step);
 }
 
 void Session::bury_the_dead(int event_depth) {
@@ -144,25 +152,44 @@ void Session::Main() {
 }
 
 void Session::prepare() {
-  platform_.seed_random();
-  játékszámláló = 5;
-  feedback.hang_lejátszás(u"*");
-  if (ticked(u"frm_hangbeáll", u"chk_hang_a_főablakban"))
-    feedback.hang_lejátszás(alapkönyvtár + u"cserko\\clack 1.wav");
-  auto& reference = window<frm_referencia>();
-  reference.Timer_zene.Enabled = ticked(u"frm_zenebeáll", u"chk_zene_enged");
-  reference.Font.name = u"Times New Roman CE";
-  képadatok_betöltése();
+  // Each step for itself: what fails in one keeps nobody from the others, and from a main window.
+  run_start_step([this] {
+    platform_.seed_random();
+    játékszámláló = 5;
+    feedback.hang_lejátszás(u"*");
+    if (ticked(u"frm_hangbeáll", u"chk_hang_a_főablakban"))
+      feedback.hang_lejátszás(alapkönyvtár + u"cserko\\clack 1.wav");
+  });
+  run_start_step([this] { window<frm_referencia>().Timer_zene.Enabled = ticked(u"frm_zenebeáll", u"chk_zene_enged"); });
+  run_start_step([this] { window<frm_referencia>().Font.name = u"Times New Roman CE"; });
+  run_start_step([this] { képadatok_betöltése(); });
+}
+
+Window* Session::load_main_window(bool with_pictures) {
+  Window* loaded = nullptr;
+  run_start_step([&] { loaded = with_pictures ? &window(u"frm_grafikus_főablak") : &window<frm_főablak>(); });
+  return loaded;
 }
 
 void Session::run_main_windows() {
   const auto graphic = [this] {
-    return offers(u"frm_grafikus_főablak") && window<frm_főablak_beállítások>().chk_grafikus_főablak.ticked();
+    bool chosen = false;
+    run_start_step([&] {
+      chosen = offers(u"frm_grafikus_főablak") && window<frm_főablak_beállítások>().chk_grafikus_főablak.ticked();
+    });
+    return chosen;
   };
   // The text window leaves by ending the process, so in practice only the graphic one returns here.
   while (!platform_.ended()) {
-    const bool with_pictures = graphic();
-    platform_.show_modal(with_pictures ? window(u"frm_grafikus_főablak") : window<frm_főablak>());
+    bool with_pictures = graphic();
+    Window* main = load_main_window(with_pictures);
+    if (main == nullptr && with_pictures) {
+      // Better the plain window than none.
+      with_pictures = false;
+      main = load_main_window(false);
+    }
+    if (main == nullptr) return;
+    platform_.show_modal(*main);
     if (graphic() == with_pictures) return;
   }
 }

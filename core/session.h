@@ -84,6 +84,9 @@ class Session : public Host {
   Window* loaded_window(std::type_index type) const;
   Window& adopt(std::type_index type, std::unique_ptr<Window> window);
   void take_away(Window& window);
+  void run_guarded(const std::function<Text()>& place, const std::function<void()>& deed);
+  void run_start_step(const std::function<void()>& step);
+  Window* load_main_window(bool with_pictures);
   void prepare();
   void run_main_windows();
   void close_down();

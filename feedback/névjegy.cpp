@@ -31,7 +31,7 @@ void Névjegy::StartSysInfo() {
   Text path;
   if (!GetKeyValue(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", u"PATH", path)) {
     if (GetKeyValue(u"SOFTWARE\\Microsoft\\Shared Tools Location", u"MSINFO", path)) path += u"\\MSINFO32.EXE";
-    if (!path.empty() && !platform().files().exists(path)) path.clear();
+    if (!path.empty() && !platform().program_exists(path)) path.clear();
   }
   if (path.empty()) {
     platform().message_box(u"System Information Is Unavailable At This Time");

@@ -58,6 +58,9 @@ class Platform {
   /// Set once, by the session, before any window exists; null again when it ends.
   Host* host = nullptr;
 
+  /// Told by the host that an event of the suite begins; a machine may watch over how much each of them does.
+  virtual void event_begins() {}
+
   // Time and chance.
   /// Milliseconds since a fixed moment; never goes back.
   virtual std::int64_t now() const = 0;
@@ -83,6 +86,8 @@ class Platform {
   virtual void pump_events(const std::function<bool()>& until) = 0;
   /// The usable screen, twips.
   virtual Size screen_size() const = 0;
+  /// The whole screen, panels and bars of the desktop included, twips; its corner counts from that of the usable one.
+  virtual Rect whole_screen() const = 0;
   /// What frame, title bar and menu bar add to the client area of a window, twips.
   virtual Size chrome(const Window& window) const = 0;
 
@@ -102,6 +107,8 @@ class Platform {
   virtual Text application_folder() const = 0;
   /// Starts a program by its command line and does not wait. Throws std::runtime_error if it cannot be started.
   virtual void start_process(const Text& command_line, ProcessWindow window) = 0;
+  /// Whether a program lies at a path of the machine itself.
+  virtual bool program_exists(const Text& /*path*/) const { return false; }
   /// A text or number of the local machine's registry as text; none where there is no such value, or no registry.
   virtual std::optional<Text> registry_value(const Text& /*key*/, const Text& /*name*/) const { return std::nullopt; }
   /// The platform's own message box with one button.

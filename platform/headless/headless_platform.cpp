@@ -13,6 +13,10 @@ namespace {
 
 constexpr std::array<TextView, 6> picture_endings{u".wmf", u".bmp", u".png", u".jpg", u".jpeg", u".ico"};
 
+// What an operation counts as, in steps.
+constexpr int measuring = 20;
+constexpr int drawing = 100;
+
 bool is_picture_name(const Text& path) {
   const Text name = MemoryFiles::folded(path);
   return std::any_of(picture_endings.begin(), picture_endings.end(),
@@ -35,7 +39,25 @@ void HeadlessPlatform::set_time_of_day(TimeOfDay time) {
   minutes_at_start_ = (time.hour * 60 + time.minute - passed + minutes_a_day) % minutes_a_day;
 }
 
+std::int64_t HeadlessPlatform::now() const {
+  step(1);
+  return clock_;
+}
+
+void HeadlessPlatform::seed_random() {
+  step(1);
+  ++seedings;
+}
+
+void HeadlessPlatform::step(int weight) const {
+  steps_ += weight;
+  if (steps_ <= step_limit) return;
+  steps_ = 0; // what still happens on the way out is not the loop
+  fail("an event takes more steps than any needs");
+}
+
 double HeadlessPlatform::random() {
+  step(1);
   if (scripted_random_.empty()) return static_cast<double>(generator_() >> 11) * 0x1p-53;
   const double number = scripted_random_.front();
   scripted_random_.pop_front();
@@ -57,6 +79,11 @@ void HeadlessPlatform::set_screen(int width_pixels, int height_pixels) {
   screen_ = {width_pixels * twips_per_pixel, height_pixels * twips_per_pixel};
 }
 
+Rect HeadlessPlatform::whole_screen() const {
+  return {-panels.left, -panels.top, panels.left + screen_.width + panels.right,
+          panels.top + screen_.height + panels.bottom};
+}
+
 Size HeadlessPlatform::chrome(const Window& window) const {
   if (window.Border == WindowBorder::None) return {};
   const auto& elements = window.elements();
@@ -65,9 +92,13 @@ Size HeadlessPlatform::chrome(const Window& window) const {
   return {frame_width, title_height + (menu ? menu_height : 0)};
 }
 
-Size HeadlessPlatform::measure(const Font& font, TextView text) const { return text_metrics::measure(font, text); }
+Size HeadlessPlatform::measure(const Font& font, TextView text) const {
+  step(measuring);
+  return text_metrics::measure(font, text);
+}
 
 Size HeadlessPlatform::measure_wrapped(const Font& font, TextView text, double width) const {
+  step(measuring);
   return text_metrics::measure_wrapped(font, text, width);
 }
 
@@ -162,7 +193,10 @@ void HeadlessPlatform::bring_to_front(Window& window) {
   std::rotate(here, here + 1, modal);
 }
 
-void HeadlessPlatform::redraw(Window&) { ++redraws; }
+void HeadlessPlatform::redraw(Window&) {
+  step(drawing);
+  ++redraws;
+}
 
 void HeadlessPlatform::next_frame(Window& window) {
   redraw(window);
@@ -227,6 +261,7 @@ bool HeadlessPlatform::fire_until(std::int64_t limit) {
   const auto due = timers_.first();
   if (!due || due->at > limit) return false;
   clock_ = std::max(clock_, due->at);
+  event_begins();
   timers_.fire_first([this] { return clock_; });
   return true;
 }
@@ -256,6 +291,7 @@ std::string HeadlessPlatform::where() const {
 }
 
 void HeadlessPlatform::let_person(const std::function<void()>& deed) {
+  event_begins();
   try {
     deed();
   } catch (...) {
@@ -265,7 +301,7 @@ void HeadlessPlatform::let_person(const std::function<void()>& deed) {
   }
 }
 
-void HeadlessPlatform::fail(const std::string& what) {
+void HeadlessPlatform::fail(const std::string& what) const {
   failure_ = std::make_exception_ptr(Stuck(what + where()));
   ended_ = true;
   std::rethrow_exception(failure_);

@@ -13,8 +13,8 @@
 
 namespace cserko {
 
-/// A modal show or a wait that can never end: the person does nothing and no timer will change that. It passes every
-/// event boundary and reaches the test.
+/// A modal show, a wait or a loop that never ends: the person does nothing and no timer will change that, or one event
+/// takes more steps than any needs. It passes every event boundary and reaches the test.
 class Stuck : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -41,6 +41,9 @@ class HeadlessPlatform : public Platform {
   /// the clock stood still.
   std::int64_t patience = 600000;
   int deed_limit = 1000000;
+  /// Far above what any event needs: random numbers, looks at the clock, texts measured (20 each), redraws and frames
+  /// (100 each). An event with more is taken for a loop without an end.
+  std::int64_t step_limit = 10000000;
 
   // What was written down.
 
@@ -55,6 +58,7 @@ class HeadlessPlatform : public Platform {
   int redraws = 0;
   int frames = 0;
   bool processes_fail = false; ///< No program can be started.
+  std::set<Text> programs;     ///< Paths at which a program lies.
   /// What the registry holds, by key and name.
   std::map<std::pair<Text, Text>, Text> registry;
 
@@ -78,6 +82,13 @@ class HeadlessPlatform : public Platform {
   // The screen.
 
   void set_screen(int width_pixels, int height_pixels);
+  /// Panels of the desktop that take from the whole screen what is not usable, twips at each edge.
+  struct Panels {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+  } panels;
   /// The window at the front that takes input, null if none is shown.
   Window* active_window() const { return shown_.empty() ? nullptr : shown_.back(); }
   /// All shown windows, from the back to the front.
@@ -100,9 +111,9 @@ class HeadlessPlatform : public Platform {
   static constexpr double menu_height = 375;          ///< Twips that a menu bar adds.
   static constexpr int frame_time = 16;               ///< Milliseconds of a display frame.
 
-  std::int64_t now() const override { return clock_; }
+  std::int64_t now() const override;
   TimeOfDay time_of_day() const override;
-  void seed_random() override { ++seedings; }
+  void seed_random() override;
   double random() override;
 
   void attach(Window& window) override;
@@ -115,6 +126,7 @@ class HeadlessPlatform : public Platform {
   void next_frame(Window& window) override;
   void pump_events(const std::function<bool()>& until) override;
   Size screen_size() const override { return screen_; }
+  Rect whole_screen() const override;
   Size chrome(const Window& window) const override;
 
   Size measure(const Font& font, TextView text) const override;
@@ -127,13 +139,16 @@ class HeadlessPlatform : public Platform {
   const MemoryFiles& files() const { return files_; }
   Text application_folder() const override { return Text(folder); }
   void start_process(const Text& command_line, ProcessWindow window) override;
+  bool program_exists(const Text& path) const override { return programs.count(path) != 0; }
   std::optional<Text> registry_value(const Text& key, const Text& name) const override;
   void message_box(const Text& text) override { messages.push_back(text); }
   void report_error(const Text& text) override;
   void end_process() override { ended_ = true; }
   bool ended() const override { return ended_; }
+  void event_begins() override { steps_ = 0; }
 
  private:
+  void step(int weight) const;
   bool is_shown(const Window& window) const;
   void put_to_front(Window& window);
   void activate_front();
@@ -143,7 +158,7 @@ class HeadlessPlatform : public Platform {
   void wait_for_timer();
   bool fire_until(std::int64_t limit);
   void let_person(const std::function<void()>& deed);
-  [[noreturn]] void fail(const std::string& what);
+  [[noreturn]] void fail(const std::string& what) const;
   std::string where() const;
 
   std::int64_t clock_ = 0;
@@ -161,8 +176,9 @@ class HeadlessPlatform : public Platform {
   std::map<Text, std::shared_ptr<const PixelImage>> picture_images_;
   MemoryFiles files_;
   RecordedMedia media_;
-  std::exception_ptr failure_;
-  bool ended_ = false;
+  mutable std::int64_t steps_ = 0;
+  mutable std::exception_ptr failure_;
+  mutable bool ended_ = false;
 };
 
 } // namespace cserko

@@ -7,6 +7,7 @@
 #include "platform/qt/qt_text.h"
 #include "platform/qt/sdl_media.h"
 #include "platform/qt/theme.h"
+#include "platform/suite_path.h"
 
 #include <QApplication>
 #include <QDateTime>
@@ -30,6 +31,23 @@ namespace cserko {
 namespace {
 
 constexpr int frame_ms = 16;
+
+struct CommandLine {
+  QString program;
+  QString argument;
+};
+
+// The path of a program may have blanks in it and stands without quotes: it ends behind ".exe", or else at a blank.
+CommandLine split(const QString& line) {
+  const QString ending = ".exe";
+  qsizetype end = line.indexOf(ending, 0, Qt::CaseInsensitive);
+  while (end >= 0 && end + ending.size() < line.size() && line[end + ending.size()] != ' ')
+    end = line.indexOf(ending, end + 1, Qt::CaseInsensitive);
+  end = end >= 0 ? end + ending.size() : line.indexOf(' ');
+  return end < 0 ? CommandLine{line, {}} : CommandLine{line.left(end), line.mid(end).trimmed()};
+}
+
+QString native(const Text& path) { return to_qt(path).replace('\\', '/'); }
 
 } // namespace
 
@@ -182,12 +200,18 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
     return false;
   }
   case QEvent::WindowActivate:
-    if (WindowView* view = live_view(object); view == object && view != nullptr && view->model().visible() && !quiet_)
+    if (WindowView* view = live_view(object); view == object && view != nullptr && may_come_to_front(*view) && !quiet_)
       act([this, &window = view->model()] { activate(window); });
     return false;
   default:
     return false;
   }
+}
+
+// Not so what the window system tells late of a window over which a modal one has come meanwhile.
+bool QtPlatform::may_come_to_front(const WindowView& view) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return view.model().visible() && (modal == nullptr || modal == &view);
 }
 
 // The view that an object belongs to; null where it belongs to none, or to one that only waits for its deletion: the
@@ -292,6 +316,14 @@ void QtPlatform::activate(Window& window) {
   input::activate(window);
 }
 
+// A window that is shown is in front, also where the window system says so late or, for want of a window manager,
+// never.
+void QtPlatform::tell_activated(Window& window) {
+  act([this, &window] {
+    if (window.visible()) activate(window);
+  });
+}
+
 void QtPlatform::open_view(Window& window, bool modal) {
   Window* before = active_window();
   auto& view = views_[&window];
@@ -307,6 +339,10 @@ void QtPlatform::open_view(Window& window, bool modal) {
     view->winId();
     view->windowHandle()->setTransientParent(view_of(*before)->windowHandle());
   }
+  // Told so, a window manager lets it lie over its panels.
+  const QRect screen = QGuiApplication::primaryScreen()->geometry();
+  const bool covers_screen = view->geometry().adjusted(-1, -1, 1, 1).contains(screen);
+  if (window.Border == WindowBorder::None && covers_screen) view->setWindowState(Qt::WindowFullScreen);
   view->show();
   view->raise();
   view->activateWindow();
@@ -317,6 +353,7 @@ void QtPlatform::show_modal(Window& window) {
   if (ended_) return;
   open_view(window, true);
   sync_all();
+  tell_activated(window);
   run_loop([&window] { return !window.visible(); });
   if (ended_) return;
   // The window system tells later; what the caller does behind the show must come after it.
@@ -327,6 +364,7 @@ void QtPlatform::show_modal(Window& window) {
 void QtPlatform::show(Window& window) {
   if (ended_) return;
   open_view(window, false);
+  tell_activated(window);
 }
 
 void QtPlatform::hide(Window& window) {
@@ -385,6 +423,13 @@ Size QtPlatform::screen_size() const {
   return {context_.to_twips(size.width()), context_.to_twips(size.height())};
 }
 
+Rect QtPlatform::whole_screen() const {
+  const QScreen& screen = *QGuiApplication::primaryScreen();
+  const QRect whole = screen.geometry().translated(-screen.availableGeometry().topLeft());
+  return {context_.to_twips(whole.x()), context_.to_twips(whole.y()), context_.to_twips(whole.width()),
+          context_.to_twips(whole.height())};
+}
+
 Size QtPlatform::chrome(const Window& window) const {
   Size result;
   if (window.Border != WindowBorder::None) {
@@ -433,27 +478,30 @@ double QtPlatform::random() { return static_cast<double>(random_() >> 11) * 0x1.
 
 // ---- Other programs, messages, the end ----
 
-QString QtPlatform::helper_program(const QString& name) const {
-#ifdef Q_OS_WIN
-  const QString file = name + ".exe";
-#else
-  const QString& file = name;
+// The programs that belong to the suite lie beside it, wherever the pack is.
+QString QtPlatform::program_path(const QString& named) const {
+  const auto own = suite_path(from_qt(named));
+  if (!own || own->root != SuitePath::Root::Application) return native(from_qt(named));
+  QString file = to_qt(own->below);
+  file = file.mid(file.lastIndexOf('\\') + 1);
+#ifndef Q_OS_WIN
+  if (file.endsWith(".exe", Qt::CaseInsensitive)) file.chop(4);
 #endif
   return QCoreApplication::applicationDirPath() + '/' + file;
 }
 
 void QtPlatform::start_process(const Text& command_line, ProcessWindow) {
-  const QString line = to_qt(command_line);
-  const qsizetype end = line.indexOf(".exe", 0, Qt::CaseInsensitive);
-  const QString named = line.left(end < 0 ? line.size() : end);
-  const QString program = helper_program(named.mid(named.lastIndexOf('\\') + 1));
-  QString argument = end < 0 ? QString() : line.mid(end + 4).trimmed();
+  auto [named, argument] = split(to_qt(command_line));
+  const QString program = program_path(named);
   const QString folder = to_qt(application_folder());
   if (argument.startsWith(folder, Qt::CaseInsensitive)) argument = files_.real_path(from_qt(argument));
   const QStringList arguments = argument.isEmpty() ? QStringList() : QStringList(argument);
-  if (!QFileInfo(program).isExecutable() || !QProcess::startDetached(program, arguments))
-    throw std::runtime_error(("Ez a program nem indítható el: " + QFileInfo(program).fileName()).toStdString());
+  const QFileInfo file(program);
+  if (!file.isFile() || !file.isExecutable() || !QProcess::startDetached(program, arguments))
+    throw std::runtime_error(("Ez a program nem indítható el: " + file.fileName()).toStdString());
 }
+
+bool QtPlatform::program_exists(const Text& path) const { return QFileInfo(native(path)).isFile(); }
 
 std::optional<Text> QtPlatform::registry_value(const Text& key, const Text& name) const {
 #ifdef Q_OS_WIN
@@ -475,10 +523,13 @@ void QtPlatform::message_box(const Text& text) {
 
 void QtPlatform::report_error(const Text& text) {
   std::fprintf(stderr, "%s\n", lines_to_qt(text).toUtf8().constData());
-  // One box at a time, and none before there is a window that it could belong to.
-  if (reporting_ || stack_.empty() || ended_) return;
+  // One box at a time.
+  if (reporting_ || ended_) return;
   reporting_ = true;
+  // Before the first window and behind the last one nothing of the suite goes on while the person reads.
+  const bool before = std::exchange(quiet_, quiet_ || stack_.empty());
   message_box(text);
+  quiet_ = before;
   reporting_ = false;
 }
 

@@ -57,6 +57,7 @@ class QtPlatform : public QObject, public Platform {
   void next_frame(Window& window) override;
   void pump_events(const std::function<bool()>& until) override;
   Size screen_size() const override;
+  Rect whole_screen() const override;
   Size chrome(const Window& window) const override;
 
   Size measure(const Font& font, TextView text) const override { return fonts_.measure(font, text); }
@@ -70,6 +71,7 @@ class QtPlatform : public QObject, public Platform {
   Files& files() override { return files_; }
   Text application_folder() const override { return Text(logical_application_folder); }
   void start_process(const Text& command_line, ProcessWindow window) override;
+  bool program_exists(const Text& path) const override;
   std::optional<Text> registry_value(const Text& key, const Text& name) const override;
   void message_box(const Text& text) override;
   void report_error(const Text& text) override;
@@ -102,6 +104,7 @@ class QtPlatform : public QObject, public Platform {
   void make_up_for_ticks();
   /// Lets the events of the window system happen that are not for the suite.
   void let_paint(QEventLoop::ProcessEventsFlags events);
+  static bool may_come_to_front(const WindowView& view);
   WindowView* live_view(const QObject* object) const;
   WindowView* view_that_hears(const QObject* object) const;
   bool key_press(WindowView& view, QKeyEvent& event);
@@ -111,10 +114,11 @@ class QtPlatform : public QObject, public Platform {
   void open_view(Window& window, bool modal);
   void first_focus(Window& window);
   void activate(Window& window);
+  void tell_activated(Window& window);
   bool show_changes(Window& window);
   void paint_now(WindowView& view);
   void drop_queued_input();
-  QString helper_program(const QString& name) const;
+  QString program_path(const QString& named) const;
 
   QtFiles files_;
   Fonts fonts_;

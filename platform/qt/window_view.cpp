@@ -142,10 +142,10 @@ bool WindowView::sync_window() {
   if (place != shown_place_) {
     shown_place_ = place;
     move(place.topLeft() + QGuiApplication::primaryScreen()->availableGeometry().topLeft());
-    if (window_.Border == WindowBorder::Sizable) {
-      resize(place.size());
-    } else {
+    if (window_.Border == WindowBorder::Fixed) {
       setFixedSize(place.size());
+    } else {
+      resize(place.size());
     }
     lay_out();
   }

@@ -13,6 +13,53 @@ class Timers : public PlatformTest {
   std::vector<std::int64_t> times;
 };
 
+class EndlessLoops : public PlatformTest {
+ protected:
+  void expect_stuck(const std::function<void()>& step) {
+    platform.step_limit = 10000;
+    EXPECT_THROW(
+        {
+          for (;;) step();
+        },
+        Stuck);
+    EXPECT_TRUE(platform.ended());
+  }
+};
+
+TEST_F(EndlessLoops, OfDrawsEnd) {
+  expect_stuck([this] { platform.random(); });
+}
+
+TEST_F(EndlessLoops, OfLooksAtTheClockEnd) {
+  expect_stuck([this] { platform.now(); });
+}
+
+TEST_F(EndlessLoops, OfMeasuredTextsEnd) {
+  expect_stuck([this] { platform.measure({}, u"a"); });
+}
+
+TEST_F(EndlessLoops, OfWrappedTextsEnd) {
+  expect_stuck([this] { platform.measure_wrapped({}, u"a", 100); });
+}
+
+TEST_F(EndlessLoops, OfRedrawsEnd) {
+  expect_stuck([this] { platform.redraw(window); });
+}
+
+TEST_F(EndlessLoops, OfFramesEnd) {
+  expect_stuck([this] { platform.next_frame(window); });
+}
+
+TEST_F(EndlessLoops, AreTakenForSuchOnlyPastTheLimitOfOneEvent) {
+  platform.step_limit = 10;
+  for (int event = 0; event < 100; ++event) {
+    platform.event_begins();
+    for (int draw = 0; draw < 10; ++draw) platform.random();
+  }
+  EXPECT_FALSE(platform.ended());
+  EXPECT_THROW(platform.random(), Stuck);
+}
+
 TEST_F(Timers, FireEveryIntervalAlsoInWindowsThatAreNotShown) {
   Timer timer(window, u"Timer1", 100);
   timer.Tick = noting_time();

@@ -239,10 +239,60 @@ TEST_F(Modal, OnlyOneErrorIsReportedAtATime) {
   EXPECT_EQ(boxes, 1);
 }
 
-TEST_F(Modal, AnErrorBeforeAnyWindowIsWrittenAndShowsNoBox) {
+TEST_F(Modal, AnErrorWithoutAnyWindowReachesThePersonToo) {
+  QString told;
+  answer_box([&](QMessageBox& box) { told = box.text(); });
   testing::internal::CaptureStderr();
   machine->report_error(u"korai baj");
   EXPECT_THAT(testing::internal::GetCapturedStderr(), testing::HasSubstr("korai baj"));
+  EXPECT_EQ(told, "korai baj");
+}
+
+TEST_F(Modal, NoTimerFiresWhileAnErrorStandsAlone) {
+  NotingWindow window(*machine);
+  int ticks = 0;
+  Timer timer(window, u"Timer1", 1);
+  timer.Tick = [&] { ++ticks; };
+  machine->sync_all();
+  answer_box([&](QMessageBox&) {
+    QTest::qWait(3 * idle_pace);
+    EXPECT_EQ(ticks, 0);
+  });
+  machine->report_error(u"korai baj");
+  EXPECT_TRUE(wait_for([&] { return ticks > 0; })) << "behind it the timers run";
+}
+
+TEST_F(Modal, AWindowIsActivatedByBeingShown) {
+  NotingWindow window(*machine);
+  machine->show(window);
+  EXPECT_EQ(window.activations, 1) << "no window system has said anything yet";
+  NotingWindow dialog(*machine, {3000, 3000});
+  int at_start = 0;
+  later([&] {
+    at_start = dialog.activations;
+    machine->hide(dialog);
+  });
+  machine->show_modal(dialog);
+  EXPECT_EQ(at_start, 1);
+  EXPECT_TRUE(wait_for([&] { return view(window).isActiveWindow(); }));
+  EXPECT_EQ(dialog.activations, 1);
+}
+
+TEST_F(Modal, AWindowWithoutBorderThatCoversTheScreenIsToldToTheWindowManagerAsSuch) {
+  NotingWindow backdrop(*machine);
+  backdrop.Border = WindowBorder::None;
+  const Rect screen = machine->whole_screen();
+  backdrop.Left = screen.left;
+  backdrop.Top = screen.top;
+  backdrop.Width = screen.width;
+  backdrop.Height = screen.height;
+  machine->show(backdrop);
+  EXPECT_TRUE(view(backdrop).windowState().testFlag(Qt::WindowFullScreen));
+  EXPECT_EQ(view(backdrop).geometry(), QGuiApplication::primaryScreen()->geometry());
+  NotingWindow small(*machine);
+  small.Border = WindowBorder::None;
+  machine->show(small);
+  EXPECT_FALSE(view(small).windowState().testFlag(Qt::WindowFullScreen));
 }
 
 } // namespace

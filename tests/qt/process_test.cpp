@@ -33,6 +33,25 @@ TEST_F(Programs, APathOfTheApplicationFolderIsGivenAsTheRealOne) {
   EXPECT_EQ(started_with(page), QStringList{real_});
 }
 
+TEST_F(Programs, AProgramElsewhereIsStartedByItsWholePathBlanksIncluded) {
+  const QTemporaryDir elsewhere;
+  const QString folder = elsewhere.filePath("két szavas mappa");
+  ASSERT_TRUE(QDir().mkpath(folder));
+  const QString tool = folder + "/eszköz.exe";
+  ASSERT_TRUE(QFile::copy(QCoreApplication::applicationDirPath() + "/qt_started", tool));
+  EXPECT_TRUE(machine->program_exists(tool.toStdU16String()));
+  EXPECT_FALSE(machine->program_exists((folder + "/más.exe").toStdU16String()));
+  EXPECT_FALSE(machine->program_exists(folder.toStdU16String())) << "a folder is no program";
+  machine->start_process((tool + ' ' + real_).toStdU16String(), ProcessWindow::Normal);
+  EXPECT_TRUE(wait_for([&] { return QFile::exists(real_); }));
+}
+
+TEST_F(Programs, AProgramElsewhereIsNotTakenForOneOfTheSuite) {
+  EXPECT_THROW(machine->start_process(u"c:\\eszközök\\qt_started.exe " + real_.toStdU16String(), ProcessWindow::Normal),
+               std::runtime_error);
+  EXPECT_THROW(machine->start_process(u"/nincs/qt_started", ProcessWindow::Normal), std::runtime_error);
+}
+
 TEST_F(Programs, AProgramThatIsNotThereIsAClearError) {
   try {
     machine->start_process(machine->application_folder() + u"portál.exe klki", ProcessWindow::Normal);

@@ -41,7 +41,7 @@ TEST_F(AboutPanelTest, EnterAndEscapeCloseIt) {
 TEST_F(AboutPanelTest, ThePathOfTheToolComesBeforeTheSharedFolder) {
   registry(u"SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", u"PATH", u"c:\\tools\\info.exe");
   registry(u"SOFTWARE\\Microsoft\\Shared Tools Location", u"MSINFO", u"c:\\shared");
-  machine.files().put(u"c:\\shared\\MSINFO32.EXE", "tool");
+  machine.programs = {u"c:\\shared\\MSINFO32.EXE"};
   hand::click(open<Névjegy>().cmdSysInfo);
   ASSERT_EQ(machine.processes.size(), 1U);
   EXPECT_EQ(utf8(machine.processes[0].command_line), "c:\\tools\\info.exe");

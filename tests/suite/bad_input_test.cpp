@@ -169,6 +169,85 @@ TEST_F(BadInputTest, BinarySettingsFilesLeaveTheDesignOfEveryDialog) {
   EXPECT_EQ(dialog().udbetszám.value(), 12);
 }
 
+TEST_F(BadInputTest, ALoopWithoutAnEndEndsItsTestAndDoesNotHangIt) {
+  struct Endless : PlainWindow {
+    explicit Endless(Session& s) : PlainWindow(s, u"endless") {
+      button.Click = [this] {
+        while (platform().random() >= 0) ++rounds;
+      };
+    }
+    Button button{*this, u"button", {0, 0, 500, 500}, u"x"};
+    int rounds = 0;
+  };
+  start();
+  auto& window = open<Endless>();
+  for (int i = 0; i < 3000000; ++i) machine.random(); // of other events
+  EXPECT_THROW(hand::click(window.button), Stuck);
+  EXPECT_GE(window.rounds, 1000000);
+}
+
+// Names with a path in them.
+
+class CraftedNamesTest : public BadInputTest {
+ protected:
+  CraftedNamesTest() {
+    for (const TextView path : {u"c:\\titok\\a.wav", u"c:\\titok\\a.mid", u"c:\\titok.wav", u"c:\\titok.mid"})
+      machine.files().put(Text(path), "titok");
+    put_words({u"kos", u"utolsó"});
+    put_sounds({u"b.wav"});
+    put_app_file(u"dysmid\\b.mid");
+  }
+  /// Ways out of the folder of the sounds or tunes, each line ending so.
+  static Text crafted(const Text& ending) {
+    Text lines;
+    for (const TextView way : {u"..\\..\\titok\\a", u"../../titok/a", u"..\\/..\\/titok", u"c:\\titok\\a",
+                               u"..\\..\\..\\..\\titok\\a", u".. \\..\\titok\\a"})
+      lines += Text(way) + ending + u"\r\n";
+    return lines;
+  }
+  void expect_untouched() {
+    for (const TextView path : {u"c:\\titok\\a.wav", u"c:\\titok\\a.mid", u"c:\\titok.wav", u"c:\\titok.mid"}) {
+      const auto& all = machine.files().all();
+      EXPECT_NE(std::find(all.begin(), all.end(), path), all.end()) << utf8(path);
+    }
+    for (const Text& title : machine.media().played) EXPECT_EQ(utf8(title).find("titok"), std::string::npos);
+  }
+};
+
+TEST_F(CraftedNamesTest, ASoundListLeadsNowhereOutside) {
+  put_app_file(u"cserko\\hibahang.ini", crafted(u".wav") + u"b.wav\r\n");
+  start();
+  auto& dialog = open<frm_hangbeáll>();
+  EXPECT_EQ(dialog.Lst_hibahang.Items, std::vector<Text>{u"b.wav"}) << "what is not there is gone from the list";
+  expect_untouched();
+}
+
+TEST_F(CraftedNamesTest, APlaylistLeadsNowhereOutside) {
+  machine.files().put(Text(user_folder) + u"zenebeáll.ini", to_cp1250(u" 1 \r\n" + crafted(u".mid") + u"b.mid\r\n"));
+  start();
+  auto& dialog = open<frm_zenebeáll>();
+  for (int i = 0; i < dialog.list_playlist.count(); ++i) hand::select(dialog.list_playlist, i);
+  ASSERT_EQ(machine.media().played.size(), 1U);
+  EXPECT_TRUE(machine.media().played[0].ends_with(u"b.mid"));
+  expect_untouched();
+}
+
+TEST_F(CraftedNamesTest, NamesInRecordsAreWordsAndNoPaths) {
+  for (int line = 2; line <= 8; ++line) {
+    Text content;
+    for (int i = 1; i <= 8; ++i) content += (i == line ? Text(u"..\\..\\titok\\a.wav") : Text(u"kos")) + u"\r\n";
+    put_record(to_text(100 + line) + u".wms", to_cp1250(content));
+  }
+  start();
+  auto& window = open<frm_cserkó>();
+  for (int i = 0; i < 50; ++i) window.beáll();
+  for (int i = 0; i <= session().képek.képszám; ++i) {
+    EXPECT_TRUE(session().képek[i].wms.starts_with(u"c:\\cserko\\kepek\\")) << i;
+    EXPECT_EQ(session().képek[i].wmf.find(u".."), Text::npos) << i;
+  }
+  expect_untouched();
+}
+
 TEST_F(BadInputTest, AFullDiskLosesNoSettingsWhereverTheyAreWritten) {
   const std::vector<std::pair<Text, std::string>> before{
       {Text(user_folder) + u"kiscserko.ini", " 6 \r\nFalse\r\nTrue\r\nFalse\r\n 0 \r\n 1 \r\n 1 \r\n"},

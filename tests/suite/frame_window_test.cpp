@@ -220,6 +220,19 @@ TEST_F(BackdropTest, FillsTheScreenWithoutAFrameAndTakesNoClicks) {
   });
 }
 
+TEST_F(BackdropTest, CoversThePanelsOfTheDesktopToo) {
+  machine.panels = {600, 450, 0, 300};
+  play([this](Game& game) {
+    auto& backdrop = load<frmháttér>();
+    EXPECT_EQ(backdrop.Left, -600);
+    EXPECT_EQ(backdrop.Top, -450);
+    EXPECT_EQ(backdrop.Width, 600 + screen_width);
+    EXPECT_EQ(backdrop.Height, 450 + screen_height + 300);
+    EXPECT_DOUBLE_EQ(backdrop.label_óra.Top, backdrop.Height - backdrop.label_óra.Height);
+    hand::close(game);
+  });
+}
+
 TEST_F(BackdropTest, ShowsTheTimeInTheLowerRightCornerAndFollowsIt) {
   machine.set_time_of_day({7, 5});
   play([this](Game& game) {

@@ -166,6 +166,55 @@ TEST_F(MainTest, AMissingLauncherIsReportedAndTheProgramEndsAllTheSame) {
   EXPECT_TRUE(machine.ended());
 }
 
+// A window of that name whose load handler fails.
+template<class Tag> struct Unloadable : PlainWindow {
+  explicit Unloadable(Session& session) : PlainWindow(session, u"unloadable") {}
+  void Load() override { throw std::runtime_error("the window does not load"); }
+};
+
+TEST_F(MainTest, WhatFailsInThePreparationIsToldAndTheMainWindowComesAllTheSame) {
+  session().offer<Unloadable<struct Sounds>>(u"frm_hangbeáll");
+  session().offer<Unloadable<struct Music>>(u"frm_zenebeáll");
+  bool came = false;
+  then([&](Window& window) {
+    came = true;
+    EXPECT_EQ(machine.errors.size(), 2U);
+    EXPECT_EQ(session().képek.képszám, 2);
+    EXPECT_EQ(utf8(load<frm_referencia>().Font.name), "Times New Roman CE");
+    hand::key(window, key::escape);
+  });
+  session().Main();
+  expected_errors = 2;
+  EXPECT_TRUE(came);
+  EXPECT_NE(utf8(machine.errors[0]).find("a program indulása"), std::string::npos) << utf8(machine.errors[0]);
+}
+
+TEST_F(MainTest, AGraphicWindowThatDoesNotLoadGivesWayToTheTextWindow) {
+  session().offer<Unloadable<struct Graphic>>(u"frm_grafikus_főablak");
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  then_leave();
+  session().Main();
+  expected_errors = 1;
+  EXPECT_EQ(machine.count("modal frm_főablak"), 1);
+  EXPECT_TRUE(machine.ended());
+}
+
+// A machine on which nothing can be drawn, so that the decoration of the text window does not load.
+class NoCanvas : public HeadlessPlatform {
+ public:
+  std::unique_ptr<Canvas> make_canvas(Size) override { throw std::runtime_error("no canvas"); }
+};
+
+TEST(WithoutMainWindow, TheProgramTellsWhyAndEnds) {
+  NoCanvas machine;
+  Session session(machine);
+  install_feedback(session);
+  session.Main();
+  EXPECT_TRUE(machine.ended());
+  ASSERT_FALSE(machine.errors.empty());
+  EXPECT_NE(utf8(machine.errors.back()).find("no canvas"), std::string::npos) << utf8(machine.errors.back());
+}
+
 TEST_F(MainTest, AStaleWorkFileStaysUntilTheTextWindowIsLeft) {
   machine.files().put(Text(user_folder) + u"temp.bmp", "old");
   then([this](Window& window) {

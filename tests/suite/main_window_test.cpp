@@ -252,6 +252,47 @@ TEST_F(MainWindowTest, MusicStaysSilentAfterItsSettingsIfItWasTurnedOff) {
   EXPECT_FALSE(load<frm_referencia>().Timer_zene.Enabled);
 }
 
+// A window whose load handler fails.
+struct UnloadableWindow : PlainWindow {
+  explicit UnloadableWindow(Session& session) : PlainWindow(session, u"unloadable") {}
+  void Load() override { throw std::runtime_error("the window does not load"); }
+};
+
+TEST_F(MainWindowTest, TheDecorationGoesOnWhenTheBackdropDoesNotLoad) {
+  auto& main = window();
+  machine.screen_fails = true;
+  hand::click(main.cmd_játék[0]);
+  machine.screen_fails = false;
+  expected_errors = 1;
+  EXPECT_EQ(machine.errors.size(), 1U);
+  EXPECT_EQ(main.Timer1.Interval, 1);
+  EXPECT_EQ(main.cserélő, -100);
+}
+
+TEST_F(MainWindowTest, MusicAndDecorationGoOnWhenTheMusicSettingsDoNotLoad) {
+  session().offer<UnloadableWindow>(u"frm_zenebeáll");
+  auto& main = window();
+  auto& music_timer = load<frm_referencia>().Timer_zene;
+  music_timer.Enabled = true;
+  hand::click(main.mnu_fájl_zenebeállítások);
+  expected_errors = 1;
+  EXPECT_TRUE(main.Timer1.Enabled);
+  EXPECT_TRUE(music_timer.Enabled);
+}
+
+TEST_F(MainWindowTest, TheWindowStaysAndItsDecorationGoesOnWhenTheGraphicWindowDoesNotLoad) {
+  session().offer<UnloadableWindow>(u"frm_grafikus_főablak");
+  auto& main = window();
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  hand::click(main.mnu_fájl_főablak_beállításai);
+  expected_errors = 1;
+  EXPECT_TRUE(main.visible());
+  EXPECT_TRUE(main.Timer1.Enabled);
+}
+
 TEST_F(MainWindowTest, TheDrumFromTheMenuHasNoTimeLimit) {
   then_in<frm_dobszerkó>([&](frm_dobszerkó& drum) {
     EXPECT_FALSE(drum.Timer_ablakbezárás.Enabled);
@@ -323,14 +364,16 @@ TEST_F(LeavingTest, OtherKeysDoNotLeave) {
   EXPECT_FALSE(machine.ended());
 }
 
-TEST_F(LeavingTest, LeavingWritesThenClosesSoundThenMusicThenEnds) {
+TEST_F(LeavingTest, LeavingWritesThenClosesSoundThenMusicThenDeletesTheWorkFileThenEnds) {
   put_app_file(u"dysmid\\a.mid");
   session().feedback.hang_lejátszás(u"*");
   session().feedback.zene_lejátszás(u"c:\\cserko\\dysmid\\a.mid");
   forget_commands();
+  machine.files().put(Text(user_folder) + u"temp.bmp", "drawing");
   hand::key(window(), key::escape);
-  EXPECT_EQ(commands(), "close hang\nclose midi\n");
-  EXPECT_EQ(machine.diary().back(), "end");
+  EXPECT_EQ(machine.diary({"write", "close", "remove", "end"}),
+            (std::vector<std::string>{"write c:\\pomzu\\cserk.pmz", "close hang", "close midi",
+                                      "remove c:\\pomzu\\cserko\\temp.bmp", "end"}));
 }
 
 TEST_F(LeavingTest, TheOrderFileHoldsDrawingThenSwapping) {

@@ -17,6 +17,12 @@ class MessageTest : public SuiteTest {
     panel.szöveg.set_caption(text);
     return panel;
   }
+  void expect_none_loaded() {
+    EXPECT_FALSE(session().loaded<szövegüzenet>());
+    EXPECT_FALSE(session().loaded<üzenet>());
+    EXPECT_FALSE(session().loaded<frm_szövegüzenet>());
+    EXPECT_FALSE(session().loaded<frm_üzenet>());
+  }
   static double space(const szövegüzenet& panel) { return panel.Command1.Top - panel.szöveg.Top - 60; }
   double height_at(const szövegüzenet& panel, double size, double width) {
     Font font = panel.szöveg.Font;
@@ -64,17 +70,35 @@ TEST_F(MessageTest, EveryPanelUnloadsItselfByItsButton) {
   hand::click(open<üzenet>().Command1);
   hand::click(open<frm_szövegüzenet>().cmd_ok);
   hand::click(open<frm_üzenet>().cmd_ok);
-  EXPECT_FALSE(session().loaded<szövegüzenet>());
-  EXPECT_FALSE(session().loaded<üzenet>());
-  EXPECT_FALSE(session().loaded<frm_szövegüzenet>());
-  EXPECT_FALSE(session().loaded<frm_üzenet>());
+  expect_none_loaded();
 }
 
 TEST_F(MessageTest, EveryPanelClosesByItsCloseControl) {
   hand::close(open<szövegüzenet>());
+  hand::close(open<üzenet>());
+  hand::close(open<frm_szövegüzenet>());
   hand::close(open<frm_üzenet>());
-  EXPECT_FALSE(session().loaded<szövegüzenet>());
-  EXPECT_FALSE(session().loaded<frm_üzenet>());
+  expect_none_loaded();
+}
+
+TEST_F(MessageTest, EveryPanelClosesByEnterAndByEscape) {
+  for (const int code : {key::enter, key::escape}) {
+    hand::key(open<szövegüzenet>(), code);
+    hand::key(open<üzenet>(), code);
+    hand::key(open<frm_szövegüzenet>(), code);
+    hand::key(open<frm_üzenet>(), code);
+    expect_none_loaded();
+  }
+}
+
+TEST_F(MessageTest, EscapeClosesAPanelWhoseButtonHasNotTheFocus) {
+  auto& panel = open<frm_üzenet>();
+  panel.set_focus(nullptr);
+  hand::key(panel, key::escape);
+  auto& text = open<szövegüzenet>();
+  text.set_focus(nullptr);
+  hand::key(text, key::escape);
+  expect_none_loaded();
 }
 
 // szövegüzenet
@@ -251,7 +275,7 @@ TEST_F(AboutTest, StartsTheToolOfTheRegistry) {
 
 TEST_F(AboutTest, ElseTheToolOfTheSharedFolderIfItIsThere) {
   registry(location_key, u"MSINFO", u"c:\\shared");
-  machine.files().put(u"c:\\shared\\MSINFO32.EXE", "tool");
+  machine.programs = {u"c:\\shared\\MSINFO32.EXE"};
   EXPECT_EQ(started(), "c:\\shared\\MSINFO32.EXE");
 }
 

@@ -199,6 +199,8 @@ TEST_F(SettingsKindsTest, AScrollBarTakesWhatLiesInItsRange) {
   EXPECT_EQ(after(&Kinds::scroll, " 4 \r\n"), " 4 \r\n");
   for (const std::string_view line : {"", "0\r\n", " 6 \r\n", "-1 \r\n", "True\r\n", "4.5\r\n", "99999999999\r\n"})
     EXPECT_EQ(after(&Kinds::scroll, line), " 4 \r\n") << line;
+  EXPECT_EQ(after(&Kinds::scroll, " 1 \r\n"), " 1 \r\n") << "the lowest value is one of them";
+  EXPECT_EQ(after(&Kinds::scroll, " 5 \r\n"), " 5 \r\n") << "and so is the highest";
 }
 
 TEST_F(SettingsKindsTest, ANumberThatNoControlHoldsIsJudgedByWhoTakesIt) {

@@ -31,6 +31,15 @@ int DiaryPlatform::count(std::string_view entry) {
   return static_cast<int>(std::count(diary().begin(), diary().end(), entry));
 }
 
+DiaryPlatform::DiaryPlatform() {
+  files().watch = [this](TextView deed, const Text& path) { note(to_utf8(deed) + " " + to_utf8(path)); };
+}
+
+Rect DiaryPlatform::whole_screen() const {
+  if (screen_fails) throw std::runtime_error("no screen");
+  return HeadlessPlatform::whole_screen();
+}
+
 void DiaryPlatform::seed_random() {
   note("seed");
   HeadlessPlatform::seed_random();

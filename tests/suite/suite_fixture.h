@@ -34,12 +34,17 @@ struct DrawingWindow : PlainWindow {
 /// The headless machine with a diary of what the suite does, in order: windows, media commands, seedings, programs.
 class DiaryPlatform : public HeadlessPlatform {
  public:
-  /// Entries such as "load frm_cserkó", "modal frm_cserkó", "play hang ", "seed", "end".
+  DiaryPlatform();
+  /// Entries such as "load frm_cserkó", "modal frm_cserkó", "play hang ", "seed", "write c:\\…", "remove c:\\…", "end".
   const std::vector<std::string>& diary();
   /// The entries that begin with one of the given words, in order.
   std::vector<std::string> diary(std::initializer_list<std::string_view> beginnings);
   int count(std::string_view entry);
 
+  /// Asking for the whole screen fails, and with it the loading of the backdrop.
+  bool screen_fails = false;
+
+  Rect whole_screen() const override;
   void seed_random() override;
   void attach(Window& window) override;
   void detach(Window& window) override;
