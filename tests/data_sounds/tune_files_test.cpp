@@ -135,9 +135,9 @@ TEST(TuneFiles, StayInTheRangeOfEarAndInstrument) {
 }
 
 TEST(TuneFiles, LastAsLongAsTheirNotesSay) {
-  std::ifstream stream(DATA_DIR "/music/tunes/Boci boci tarka.tune");
+  std::ifstream stream(DATA_DIR "/music/tunes/Boci, boci tarka.tune");
   const Tune tune = read_tune(stream);
-  const std::string bytes = bytes_of(in_pack("dysmid/Boci boci tarka.mid"));
+  const std::string bytes = bytes_of(in_pack("dysmid/Boci, boci tarka.mid"));
   EXPECT_NEAR(MidiReader(bytes).seconds(), seconds_of(arrange(tune), tune.tempo), 0.01);
 }
 
