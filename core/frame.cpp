@@ -70,6 +70,27 @@ void print_centered(PictureBox& box, TextView text) {
                      box.ForeColor);
 }
 
+// The text with line breaks instead of blanks where a line would be wider than the limit; a longer word stays whole.
+Text broken_into_lines(const Platform& platform, const Font& font, TextView text, double width) {
+  Text lines;
+  std::size_t line_start = 0;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find(u' '), text.size());
+    const TextView word = text.substr(0, end);
+    text.remove_prefix(std::min(end + 1, text.size()));
+    const Text longer = lines.substr(line_start) + u" " + Text(word);
+    if (lines.empty()) {
+      lines = word;
+    } else if (platform.measure(font, longer).width <= width) {
+      lines += u" " + Text(word);
+    } else {
+      line_start = lines.size() + 1;
+      lines += u"\r" + Text(word);
+    }
+  }
+  return lines;
+}
+
 void fit_picture_box(PictureBox& box, Text& text) {
   box.canvas().clear();
   if (text.empty()) text = u"Kéne írni ide valamit!";
@@ -226,6 +247,28 @@ void fit_wrapped(Label& label, TextView text) {
     return extent.width <= label.Width && extent.height <= label.Height;
   };
   while (label.Font.size < largest_font && fits(label.Font.size + 1)) label.Font.size += 1;
+}
+
+void fit_printed(PictureBox& box, const Text& text, double smallest_line) {
+  szöveg_illesztés(box, Text(text));
+  if (box.Font.size >= smallest_line) return;
+  const Platform& platform = box.window().platform();
+  const Size limits{0.9 * box.Width, 0.9 * box.Height};
+  Text best;
+  double best_size = box.Font.size;
+  Font font = box.Font;
+  for (double size = best_size + 1; size <= largest_font; ++size) {
+    font.size = size;
+    Text lines = broken_into_lines(platform, font, text, limits.width);
+    const Size extent = platform.measure(font, lines);
+    if (extent.width > limits.width || extent.height > limits.height) break;
+    best = std::move(lines);
+    best_size = size;
+  }
+  if (best.empty()) return;
+  box.canvas().clear();
+  box.Font.size = best_size;
+  print_centered(box, best);
 }
 
 void show_record_picture(Session& session, PictureBox& box, int index) {

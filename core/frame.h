@@ -53,6 +53,10 @@ void clear_picture(PictureBox& box);
 /// Shows a text in a label, wrapped, in the largest size up to the label's height at which it fits its place.
 void fit_wrapped(Label& label, TextView text);
 
+/// Prints a text into a picture box as `szöveg_illesztés` does; where that would be smaller than `smallest_line`
+/// points, on several lines, as large as fits. Leaves the text in the box's `Tag`.
+void fit_printed(PictureBox& box, const Text& text, double smallest_line);
+
 /// Opens a page of the help in the viewer, maximised. Throws std::runtime_error where the viewer cannot be started.
 void súgó_megnyitás(Session& session, TextView page);
 

@@ -3,6 +3,7 @@
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
+#include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
 #include "exercises/syllables/frm_szótagoló.h"
 
@@ -11,6 +12,7 @@ namespace cserko {
 void install_exercises(Session& session) {
   session.offer<frm_cserkó>(u"frm_cserkó");
   session.offer<frm_igazhamis>(u"frm_igazhamis");
+  session.offer<frm_képhatározó>(u"frm_képhatározó");
   session.offer<frm_képmemória>(u"frm_képmemória");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
   session.offer<frm_szótagoló>(u"frm_szótagoló");

@@ -1,0 +1,24 @@
+#include "tests/players/képhatározó_player.h"
+
+#include "core/settings.h"
+#include "exercises/sentences/frm_képhatározó.h"
+#include "tests/players/strip.h"
+
+namespace cserko {
+
+bool KéphatározóPlayer::play(Window& window, Hand& hand) {
+  auto& exercise = dynamic_cast<frm_képhatározó&>(window);
+  const int record = number_in(exercise.kép.Tag).value_or(-1);
+  if (record < 0) return false;
+  PictureBox* right = nullptr;
+  PictureBox* wrong = nullptr;
+  exercise.lbl_meghatározás.each([&](PictureBox& definition) {
+    (definition.Tag == records()[record].meghatározás ? right : wrong) = &definition;
+  });
+  if (right == nullptr) return false;
+  const bool err = mistake_due(task_number(exercise.lbl_eredmény, sets())) && wrong != nullptr;
+  if (choose(err ? *wrong : *right, hand) && err) mistake_made();
+  return true;
+}
+
+} // namespace cserko
