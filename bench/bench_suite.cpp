@@ -6,6 +6,7 @@
 #include "bench/limits.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/exercises.h"
+#include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
@@ -207,6 +208,7 @@ BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMi
 BENCHMARK_CAPTURE(ten_times_the_records, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(new_puzzle)->ArgName("exactly_8_letters")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(2000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, syllabifier, &frm_szótagoló::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, sentence_to_picture, &frm_mondatkép::feladat_kirakása)
     ->Unit(benchmark::kMillisecond)

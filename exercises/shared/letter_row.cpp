@@ -84,6 +84,9 @@ void LetterRow::remove(int index) {
     letters_[i].Caption = letters_[i + 1].Caption;
     letters_[i].Tag = letters_[i + 1].Tag;
   }
+  // The focus stays in the row.
+  Window& window = letters_[0].window();
+  if (window.focus() == &letters_[last()]) window.set_focus(&letters_[last() - 1]);
   letters_.unload(last());
 }
 

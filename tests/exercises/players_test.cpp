@@ -2,6 +2,7 @@
 #include "core/frm_főablak.h"
 #include "tests/exercises/exercise_fixture.h"
 #include "tests/exercises/picture_memory_fixture.h"
+#include "tests/players/betűfelesleg_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
 #include "tests/players/képmemória_player.h"
@@ -84,7 +85,8 @@ class ExercisePlayersTest : public ExerciseTest {
 };
 
 template<class P> class EachPlayerTest : public ExercisePlayersTest {};
-using Players = ::testing::Types<IgazhamisPlayer, MondatképPlayer, SzótagolóPlayer, KépmemóriaPlayer>;
+using Players =
+    ::testing::Types<BetűfeleslegPlayer, IgazhamisPlayer, MondatképPlayer, SzótagolóPlayer, KépmemóriaPlayer>;
 TYPED_TEST_SUITE(EachPlayerTest, Players);
 
 TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {

@@ -6,6 +6,7 @@
 #include "core/session.h"
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
+#include "tests/players/betűfelesleg_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
@@ -39,6 +40,7 @@ Players all_players(const Session& session) {
   constexpr auto keyboard = ExercisePlayer::Mode::Keyboard;
   Players players;
   players.push_back(std::make_unique<CserkóPlayer>(session, CserkóPlayer::Mode::Mouse, mistakes));
+  players.push_back(std::make_unique<BetűfeleslegPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<IgazhamisPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<KépmemóriaPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<MondatképPlayer>(session, keyboard, mistakes));

@@ -3,6 +3,7 @@
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
 #include "feedback/frm_hangbeáll.h"
+#include "tests/players/betűfelesleg_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/igazhamis_player.h"
 #include "tests/players/képmemória_player.h"
@@ -91,6 +92,10 @@ Game syllabifier(Session& session, bool by_keyboard) {
   return strip_game<frm_szótagoló, SzótagolóPlayer>(session, u"frm_szótagoló", by_keyboard);
 }
 
+Game surplus_letter(Session& session, bool by_keyboard) {
+  return strip_game<frm_betűfelesleg, BetűfeleslegPlayer>(session, u"frm_betűfelesleg", by_keyboard);
+}
+
 Game sentence_to_picture(Session& session, bool by_keyboard) {
   return strip_game<frm_mondatkép, MondatképPlayer>(session, u"frm_mondatkép", by_keyboard);
 }
@@ -102,6 +107,7 @@ Game true_or_false(Session& session, bool by_keyboard) {
 constexpr std::array entries{GameEntry{"scrambled_word", keep_settings, scrambled_word},
                              GameEntry{"picture_memory", set_up_memory, picture_memory},
                              GameEntry{"syllabifier", set_up_syllables, syllabifier},
+                             GameEntry{"surplus_letter", keep_settings, surplus_letter},
                              GameEntry{"sentence_to_picture", keep_settings, sentence_to_picture},
                              GameEntry{"true_or_false", keep_settings, true_or_false}};
 
