@@ -7,6 +7,7 @@
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/exercises.h"
 #include "exercises/letters/frm_betűfelesleg.h"
+#include "exercises/letters/frm_betűválogatás.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
@@ -23,6 +24,7 @@
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <ctime>
+#include <functional>
 #include <limits>
 #include <map>
 #ifdef __GLIBC__
@@ -187,9 +189,12 @@ void put_for_all(MemoryFiles& files) {
   for (int i = one_in; i <= kMostRecords; i += one_in) put_record(files, i, {to_text(i) + u"alma", {}, u"al-ma"});
   for (int i = 1; i <= kMostRecords; ++i) files.put(Text(app) + u"kepek\\" + to_text(i) + u".wmf", "picture");
   files.put(Text(user_folder) + u"szótagoló.ini", " 2 \r\n 1 \r\n");
+  // Of two letters as few words as will do.
+  for (int i = 1; i <= 12; ++i) put_record(files, i * one_in + 1, {to_text(i) + (i % 2 == 0 ? u"xa" : u"qa")});
+  files.put(Text(app) + u"betűpár.kvl", "x-q\r\n");
 }
 
-template<class Exercise> void deal(benchmark::State& state, void (Exercise::*new_task)()) {
+template<class Exercise> void deal_by(benchmark::State& state, const std::function<void(Exercise&)>& new_task) {
   HeadlessPlatform machine;
   put_for_all(machine.files());
   Session session(machine);
@@ -198,8 +203,20 @@ template<class Exercise> void deal(benchmark::State& state, void (Exercise::*new
   session.képek.load(machine.files(), session.alapkönyvtár);
   auto& window = session.window<Exercise>();
   std::vector<double> times;
-  for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { (window.*new_task)(); }));
+  for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { new_task(window); }));
   judge_deals(state, times);
+}
+
+template<class Exercise> void deal(benchmark::State& state, void (Exercise::*new_task)()) {
+  deal_by<Exercise>(state, new_task);
+}
+
+// A round of Letter sorting, as OK in its settings deals it: nobody is congratulated.
+void deal_round(benchmark::State& state) {
+  deal_by<frm_betűválogatás>(state, [](frm_betűválogatás& window) {
+    window.középsőképnév.Caption = u"Label2";
+    window.új_sorozat();
+  });
 }
 
 BENCHMARK_CAPTURE(loading_beside_reading, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
@@ -207,6 +224,7 @@ BENCHMARK_CAPTURE(loading_beside_reading, disk, on_disk)->Unit(benchmark::kMilli
 BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
 BENCHMARK_CAPTURE(ten_times_the_records, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(new_puzzle)->ArgName("exactly_8_letters")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(2000);
+BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, syllabifier, &frm_szótagoló::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);

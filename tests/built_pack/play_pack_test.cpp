@@ -4,6 +4,7 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "tests/data_sounds/pack_files.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
@@ -106,8 +107,8 @@ TEST_F(BuiltPackTest, ScrambledWordIsSolvedWordAfterWord) {
 }
 
 template<class P> class EachExerciseOnThePack : public BuiltPackTest {};
-using Players =
-    ::testing::Types<BetűfeleslegPlayer, IgazhamisPlayer, MondatképPlayer, SzótagolóPlayer, KépmemóriaPlayer>;
+using Players = ::testing::Types<BetűfeleslegPlayer, BetűválogatásPlayer, IgazhamisPlayer, MondatképPlayer,
+                                 SzótagolóPlayer, KépmemóriaPlayer>;
 TYPED_TEST_SUITE(EachExerciseOnThePack, Players);
 
 TYPED_TEST(EachExerciseOnThePack, IsSolvedSetAfterSetWithTheFactorySettings) {

@@ -3,6 +3,7 @@
 #include "tests/exercises/exercise_fixture.h"
 #include "tests/exercises/picture_memory_fixture.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűválogatás_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
 #include "tests/players/képmemória_player.h"
@@ -32,6 +33,9 @@ class ExercisePlayersTest : public ExerciseTest {
       put_full(name, syllables);
     for (const TextView word : memory_words) put_full(Text(word), Text(word));
     put_settings(u"szótagoló.ini", {u" 4 ", u" 0 "});
+    // Flights of ten frames.
+    put_app_file(u"betűpár.kvl", u"a-e\r\nk-l\r\n");
+    put_settings(u"betűválogató.ini", {u" 1 ", u" 1 ", u"True", u"False", u" 0 ", u" 14 "});
     // Six pairs, one second of waiting, two frames of half a turn.
     put_app_file(u"cserko\\képmem.ini",
                  u" 6 \r\n 12 \r\n 1 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\n 1 \r\n 0 \r\n"
@@ -73,9 +77,12 @@ class ExercisePlayersTest : public ExerciseTest {
   }
   /// The sounds tell what the exercise itself thought of the answers: six right ones in each set, and wrong each time
   /// that the player meant to be.
-  void expect_judged(const ExercisePlayer& player) {
-    EXPECT_EQ(begun(u"good.wav"), 6 * player.sets());
+  void expect_judged(const ExercisePlayer& player, int tasks = 6) {
+    EXPECT_EQ(begun(u"good.wav"), tasks * player.sets());
     EXPECT_EQ(begun(u"bad.wav"), player.wrong_answers());
+  }
+  void expect_judged(const BetűválogatásPlayer& player) {
+    expect_judged(static_cast<const ExercisePlayer&>(player), frm_betűválogatás::places);
   }
   /// Picture memory moves two cards up for each pair that it swallows, and two up and back for each wrong one.
   void expect_judged(const KépmemóriaPlayer& player, int pairs = 6) {
@@ -85,8 +92,8 @@ class ExercisePlayersTest : public ExerciseTest {
 };
 
 template<class P> class EachPlayerTest : public ExercisePlayersTest {};
-using Players =
-    ::testing::Types<BetűfeleslegPlayer, IgazhamisPlayer, MondatképPlayer, SzótagolóPlayer, KépmemóriaPlayer>;
+using Players = ::testing::Types<BetűfeleslegPlayer, BetűválogatásPlayer, IgazhamisPlayer, MondatképPlayer,
+                                 SzótagolóPlayer, KépmemóriaPlayer>;
 TYPED_TEST_SUITE(EachPlayerTest, Players);
 
 TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {
@@ -109,6 +116,22 @@ TYPED_TEST(EachPlayerTest, SolvesSetsWithoutAnyMistake) {
   EXPECT_EQ(player.wrong_answers(), 0);
   this->expect_judged(player);
 }
+
+class DirectionModeTest : public ExercisePlayersTest {
+ protected:
+  void practise(Mode mode) {
+    BetűválogatásPlayer player(session(), mode, 5);
+    load<frm_betűválogatás_beállítás>().chk_iránygyakoroltatása.set_value(1);
+    play(player, 200);
+    EXPECT_GE(player.wrong_answers(), 200);
+    EXPECT_GE(player.directions(), frm_betűválogatás::places * 200) << "all but the first answer";
+    expect_judged(player);
+  }
+};
+
+TEST_F(DirectionModeTest, TheSortingPlayerSaysTheSidesByMouse) { practise(Mode::Mouse); }
+
+TEST_F(DirectionModeTest, TheSortingPlayerSaysTheSidesByKeyboard) { practise(Mode::Keyboard); }
 
 class FullBoardTest : public ExercisePlayersTest {
  protected:

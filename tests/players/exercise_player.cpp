@@ -45,6 +45,7 @@ bool ExercisePlayer::step(Window& top, Hand& hand) {
     congratulations_.insert(panel->cmd_ok.serial());
     return press(panel->cmd_ok, hand);
   }
+  if (play_beside(top, hand)) return true;
   Button* button = cancel_button(top);
   return button != nullptr && press(*button, hand);
 }

@@ -27,6 +27,8 @@ class ExercisePlayer : public Player {
 
   /// One action in the window of the exercise; false when there is nothing to do but wait.
   virtual bool play(Window& window, Hand& hand) = 0;
+  /// One action in another window of the exercise; false for a window that is none of its own.
+  virtual bool play_beside(Window& /*top*/, Hand& /*hand*/) { return false; }
 
   const Records& records() const { return session_.képek; }
   bool by_mouse() const { return mode_ == Mode::Mouse; }

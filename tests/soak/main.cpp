@@ -7,6 +7,7 @@
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
@@ -34,11 +35,12 @@ void copy_files(const MemoryFiles& from, MemoryFiles& to) {
 
 using Players = std::vector<std::unique_ptr<Player>>;
 
-Players all_players(const Session& session) {
+Players all_players(Session& session) {
   constexpr int mistakes = 3;
   constexpr auto mouse = ExercisePlayer::Mode::Mouse;
   constexpr auto keyboard = ExercisePlayer::Mode::Keyboard;
   Players players;
+  players.push_back(std::make_unique<BetűválogatásPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<CserkóPlayer>(session, CserkóPlayer::Mode::Mouse, mistakes));
   players.push_back(std::make_unique<BetűfeleslegPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<IgazhamisPlayer>(session, mouse, mistakes));

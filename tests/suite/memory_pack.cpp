@@ -65,7 +65,7 @@ void put_sample_pack(MemoryFiles& files) {
     put_record(files, number, {Text(sample.name), {}, Text(sample.syllables), number % 10 != 0});
   }
   put_text(files, u"ms.skt", u"alam\rlepke\rmalac\rmalac\rsoka\r");
-  put_text(files, u"betűpár.kvl", u"b,d\r\nm,n\r\nsz,s\r\n");
+  put_text(files, u"betűpár.kvl", u"a-e\r\nk-l\r\nb-d\r\nm-n\r\nsz-s\r\n");
   for (const TextView file :
        {u"null.wav", u"cserko\\clack 1.wav", u"cserko\\moving.wav", u"cserko\\alarm.wav", u"hangok\\a.wav",
         u"hangok\\b.wav", u"hangok\\c.wav", u"hangok\\dob\\1.wav", u"hangok\\dob\\2.wav", u"dysmid\\a.mid",

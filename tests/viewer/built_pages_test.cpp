@@ -19,6 +19,8 @@ const QStringList& asked_for() {
   static const QStringList names{"cserkó súgó.mht",
                                  "Cserkó - A feladat.mht",
                                  "Cserkó - Beállítási lehetőségek.mht",
+                                 "Betűválogató - a feladat.mht",
+                                 "Betűválogató - a beállítások.mht",
                                  "Képmemória - a feladat.mht",
                                  "Képmemória - Beállítások.mht",
                                  "szótagoló - a feladat.mht",

@@ -4,6 +4,7 @@
 #include "exercises/sentences/frm_mondatkép.h"
 #include "feedback/frm_hangbeáll.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/igazhamis_player.h"
 #include "tests/players/képmemória_player.h"
@@ -28,6 +29,13 @@ void set_up_memory(Files& files) {
               " " + std::to_string(pairs) +
                   " \r\n 12 \r\n 1 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\n 1 \r\n 0 \r\n"
                   " 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
+}
+
+// Flights of ten frames, words of every length.
+void set_up_sorting(Files& files) {
+  files.make_folder(u"c:\\pomzu");
+  files.make_folder(u"c:\\pomzu\\cserko");
+  files.write(u"c:\\pomzu\\cserko\\betűválogató.ini", " 1 \r\n 1 \r\nTrue\r\nFalse\r\n 0 \r\n 14 \r\n");
 }
 
 // Words of two to four syllables, so that each of them has a break to open.
@@ -75,16 +83,33 @@ Game picture_memory(Session& session, bool by_keyboard) {
   return game;
 }
 
-// An exercise with a strip of solved tasks.
-template<class Exercise, class P> Game strip_game(Session& session, TextView window, bool by_keyboard) {
-  Game game = played_by<P>(session, window, by_keyboard, 6, 3);
-  game.gathered = [](Window& front) { return solved_tasks(dynamic_cast<Exercise&>(front).lbl_eredmény); };
+// Every answer is heard by a sound of the lists.
+void listen_to_answers(Game& game, Session& session) {
   game.heard_right = [&session](HeardPlatform& platform) {
     return platform.heard_any(session.window<frm_hangbeáll>().lst_helyeshang.Items);
   };
   game.heard_wrong = [&session](HeardPlatform& platform) {
     return platform.heard_any(session.window<frm_hangbeáll>().Lst_hibahang.Items);
   };
+}
+
+// An exercise with a strip of solved tasks.
+template<class Exercise, class P> Game strip_game(Session& session, TextView window, bool by_keyboard) {
+  Game game = played_by<P>(session, window, by_keyboard, 6, 3);
+  game.gathered = [](Window& front) { return solved_tasks(dynamic_cast<Exercise&>(front).lbl_eredmény); };
+  listen_to_answers(game, session);
+  return game;
+}
+
+Game letter_sorting(Session& session, bool by_keyboard) {
+  Game game = played_by<BetűválogatásPlayer>(session, u"frm_betűválogatás", by_keyboard, frm_betűválogatás::places, 4);
+  game.gathered = [](Window& window) {
+    int shown = 0;
+    dynamic_cast<frm_betűválogatás&>(window).eredménykép.each(
+        [&](const PictureBox& place) { shown += place.shown() ? 1 : 0; });
+    return shown;
+  };
+  listen_to_answers(game, session);
   return game;
 }
 
@@ -105,6 +130,7 @@ Game true_or_false(Session& session, bool by_keyboard) {
 }
 
 constexpr std::array entries{GameEntry{"scrambled_word", keep_settings, scrambled_word},
+                             GameEntry{"letter_sorting", set_up_sorting, letter_sorting},
                              GameEntry{"picture_memory", set_up_memory, picture_memory},
                              GameEntry{"syllabifier", set_up_syllables, syllabifier},
                              GameEntry{"surplus_letter", keep_settings, surplus_letter},
