@@ -53,6 +53,12 @@ Rect between(const Rect& from, const Rect& to, double share) {
   return {part(from.left, to.left), part(from.top, to.top), part(from.width, to.width), part(from.height, to.height)};
 }
 
+void live_frame(Session& session, Window& window, const std::function<bool()>& until) {
+  expect_present(session, window);
+  session.platform().live_frame(window, until);
+  expect_present(session, window);
+}
+
 void live_pause(Session& session, const Window& window, int ms) {
   wait(session, ms);
   expect_present(session, window);

@@ -38,6 +38,9 @@ class Animation {
 /// What lies at a share of the way from one place to another; 0 is the one, 1 the other.
 Rect between(const Rect& from, const Rect& to, double share);
 
+/// A frame of a movement that the child may go on acting in: shows what has changed, and everything goes on until the
+/// next frame of the display, or until the condition holds. Throws WindowGone where the window was closed meanwhile.
+void live_frame(Session& session, Window& window, const std::function<bool()>& until);
 /// A pause of `frmwait` (ms) in which everything goes on: keys, clicks and timers are served. Throws WindowGone where
 /// the window was closed meanwhile.
 void live_pause(Session& session, const Window& window, int ms);

@@ -68,16 +68,6 @@ bool whole_number(TextView text, int& number) {
   return true;
 }
 
-// The number that a text begins with, 0 if it begins with none.
-int leading_number(TextView text) {
-  while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
-  std::size_t digits = 0;
-  while (digits < text.size() && digits < 6 && text[digits] >= u'0' && text[digits] <= u'9') ++digits;
-  int number = 0;
-  whole_number(text.substr(0, digits), number);
-  return number;
-}
-
 } // namespace
 
 Parent::Parent(Element& container) : window_(&container.window()), container_(&container) {}

@@ -82,6 +82,8 @@ class Platform {
   virtual void redraw(Window& window) = 0;
   /// Redraws and waits for the next display frame: the step of an animation.
   virtual void next_frame(Window& window) = 0;
+  /// The same, and lets events happen meanwhile; returns before the frame is over once the condition holds.
+  virtual void live_frame(Window& window, const std::function<bool()>& until) = 0;
   /// Lets events happen until the condition holds.
   virtual void pump_events(const std::function<bool()>& until) = 0;
   /// The usable screen, twips.

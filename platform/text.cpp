@@ -128,4 +128,15 @@ Text to_text(long long number) {
   return {digits.begin(), digits.end()};
 }
 
+int leading_number(TextView text) {
+  constexpr std::size_t most_digits = 6;
+  while (!text.empty() && text.front() == u' ') text.remove_prefix(1);
+  int number = 0;
+  for (const char16_t digit : text.substr(0, most_digits)) {
+    if (digit < u'0' || digit > u'9') break;
+    number = number * 10 + (digit - u'0');
+  }
+  return number;
+}
+
 } // namespace cserko

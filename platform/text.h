@@ -31,4 +31,8 @@ bool equal_ignoring_case(TextView left, TextView right);
 /// Decimal text of a whole number, "-12" or "12", without blanks.
 Text to_text(long long number);
 
+/// The whole number that a text begins with, blanks before it left out: 0 if it begins with none, and no more than its
+/// first six digits.
+int leading_number(TextView text);
+
 } // namespace cserko

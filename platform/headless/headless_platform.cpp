@@ -206,6 +206,16 @@ void HeadlessPlatform::next_frame(Window& window) {
   if (during_frame) let_person(during_frame);
 }
 
+void HeadlessPlatform::live_frame(Window& window, const std::function<bool()>& until) {
+  redraw(window);
+  ++frames;
+  timers_.compare(clock_);
+  const std::int64_t end = clock_ + frame_time;
+  if (during_frame) let_person(during_frame);
+  while (!ended_ && !until() && fire_until(end)) activate_front();
+  if (!until()) clock_ = std::max(clock_, end);
+}
+
 void HeadlessPlatform::show_modal(Window& window) {
   if (ended_) return;
   if (is_shown(window)) throw std::logic_error("a window that is shown already cannot be shown modally");

@@ -124,6 +124,7 @@ class HeadlessPlatform : public Platform {
   void bring_to_front(Window& window) override;
   void redraw(Window& window) override;
   void next_frame(Window& window) override;
+  void live_frame(Window& window, const std::function<bool()>& until) override;
   void pump_events(const std::function<bool()>& until) override;
   Size screen_size() const override { return screen_; }
   Rect whole_screen() const override;

@@ -413,6 +413,23 @@ void QtPlatform::next_frame(Window& window) {
   frame_.restart();
 }
 
+void QtPlatform::live_frame(Window& window, const std::function<bool()>& until) {
+  show_changes(window);
+  // Also where a slow computer has no time left for the frame: what the user does is heard in each of them.
+  QCoreApplication::processEvents();
+  bool over = false;
+  QTimer end;
+  end.setTimerType(Qt::PreciseTimer);
+  end.setSingleShot(true);
+  connect(&end, &QTimer::timeout, this, [this, &over] {
+    over = true;
+    leave_finished_loops();
+  });
+  end.start(static_cast<int>(std::max<qint64>(0, frame_ms - frame_.elapsed())));
+  run_loop([&] { return over || until(); });
+  frame_.restart();
+}
+
 void QtPlatform::pump_events(const std::function<bool()>& until) {
   sync_all();
   run_loop(until);

@@ -196,5 +196,40 @@ TEST(BetweenTest, APlaceIsTheShareOfTheWay) {
   EXPECT_EQ(between(from, to, 0.5), (Rect{300, 150, 2500, 2000}));
 }
 
+TEST_F(AnimationTest, InALiveFrameKeysTimersAndClicksAreServed) {
+  machine.during_frame = [&] { hand::key(*window, key::up); };
+  window->on_click = [&] {
+    for (int frame = 1; frame <= 10; ++frame) {
+      live_frame(session(), *window, [] { return false; });
+      EXPECT_EQ(window->keys, frame);
+    }
+    EXPECT_EQ(window->ticks, 1) << "ten frames are longer than the interval";
+  };
+  hand::click(window->button);
+  EXPECT_EQ(machine.frames, 10);
+  EXPECT_EQ(machine.now(), 10 * HeadlessPlatform::frame_time);
+  EXPECT_TRUE(window->finished);
+}
+
+TEST_F(AnimationTest, ALiveFrameEndsAsSoonAsItsConditionHolds) {
+  machine.during_frame = [&] { hand::key(*window, key::up); };
+  window->on_click = [&] { live_frame(session(), *window, [this] { return window->keys > 0; }); };
+  hand::click(window->button);
+  EXPECT_EQ(machine.frames, 1) << "it is shown all the same";
+  EXPECT_EQ(machine.now(), 0);
+}
+
+TEST_F(AnimationTest, ALiveFrameInWhichTheWindowIsClosedEndsTheHandler) {
+  machine.during_frame = [&] { hand::close(*window); };
+  bool finished = false;
+  window->on_click = [&] {
+    live_frame(session(), *window, [] { return false; });
+    finished = true;
+  };
+  hand::click(window->button);
+  EXPECT_FALSE(finished);
+  EXPECT_TRUE(machine.errors.empty());
+}
+
 } // namespace
 } // namespace cserko

@@ -184,6 +184,37 @@ TEST_F(Timing, WhatIsUncoveredDuringAWaitIsPainted) {
   EXPECT_EQ(paints.count, 1);
 }
 
+TEST_F(Timing, InALiveFrameKeysAreHeardAndItLastsAFrame) {
+  NotingWindow window(*machine);
+  window.KeyPreview = true;
+  Label label(window, u"lbl", {300, 300, 900, 900}, u"A");
+  show(window);
+  Paints paints(widget(label));
+  machine->next_frame(window);
+  const std::int64_t start = machine->now();
+  for (int frame = 1; frame <= 5; ++frame) {
+    label.Caption += u"x";
+    QCoreApplication::postEvent(&view(window), new QKeyEvent(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier));
+    machine->live_frame(window, [] { return false; });
+    EXPECT_EQ(window.keys.size(), static_cast<std::size_t>(frame));
+  }
+  EXPECT_GE(machine->now() - start, 4 * 16);
+  EXPECT_GE(paints.count, 5);
+}
+
+TEST_F(Timing, ALiveFrameIsOverWhenItsConditionHolds) {
+  NotingWindow window(*machine);
+  window.KeyPreview = true;
+  Timer timer(window, u"tmr", 3);
+  int ticks = 0;
+  timer.Tick = [&] { ++ticks; };
+  show(window);
+  QCoreApplication::postEvent(&view(window), new QKeyEvent(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier));
+  machine->live_frame(window, [&] { return !window.keys.empty(); });
+  EXPECT_EQ(window.keys.size(), 1U);
+  EXPECT_EQ(ticks, 0);
+}
+
 TEST_F(Timing, PumpingEndsWhenItsConditionHolds) {
   NotingWindow window(*machine);
   Timer timer(window, u"tmr", 10);
