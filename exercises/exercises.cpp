@@ -4,6 +4,7 @@
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_betűválogatás.h"
 #include "exercises/letters/frm_cserkó.h"
+#include "exercises/letters/frmverem.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
@@ -20,6 +21,7 @@ void install_exercises(Session& session) {
   session.offer<frm_képmemória>(u"frm_képmemória");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
   session.offer<frm_szótagoló>(u"frm_szótagoló");
+  session.offer<frmverem>(u"frmverem");
 }
 
 } // namespace cserko
