@@ -2,6 +2,7 @@
 
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_betűfelesleg.h"
+#include "exercises/letters/frm_betűnézegető.h"
 #include "exercises/letters/frm_betűválogatás.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/letters/frmverem.h"
@@ -14,6 +15,7 @@ namespace cserko {
 
 void install_exercises(Session& session) {
   session.offer<frm_betűfelesleg>(u"frm_betűfelesleg");
+  session.offer<frm_betűnézegető>(u"frm_betűnézegető");
   session.offer<frm_betűválogatás>(u"frm_betűválogatás");
   session.offer<frm_cserkó>(u"frm_cserkó");
   session.offer<frm_igazhamis>(u"frm_igazhamis");

@@ -4,6 +4,7 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "tests/data_sounds/pack_files.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűnézegető_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
@@ -104,6 +105,16 @@ TEST_F(BuiltPackTest, ScrambledWordIsSolvedWordAfterWord) {
   play(player, [&] { return player.solved() >= 300; });
   EXPECT_EQ(player.solved(), 300);
   EXPECT_GE(player.wrong_answers(), 40);
+}
+
+TEST_F(BuiltPackTest, LetterViewerFindsThePicturesOfThePack) {
+  machine.files().put(u"c:\\pomzu\\cserko\\betűnézegető.ini",
+                      " 13 \r\n 0 \r\n 1 \r\nFalse\r\nTrue\r\n 1 \r\nTrue\r\nFalse\r\n");
+  load_records();
+  BetűnézegetőPlayer player(session(), ExercisePlayer::Mode::Mouse, 5);
+  play(player, [&] { return player.found() >= 300; });
+  EXPECT_EQ(player.found(), 300);
+  EXPECT_GE(player.wrong_answers(), 50);
 }
 
 template<class P> class EachExerciseOnThePack : public BuiltPackTest {};

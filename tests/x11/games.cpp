@@ -4,6 +4,7 @@
 #include "exercises/sentences/frm_mondatkép.h"
 #include "feedback/frm_hangbeáll.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűnézegető_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
 #include "tests/players/igazhamis_player.h"
@@ -43,6 +44,14 @@ void set_up_syllables(Files& files) {
   files.make_folder(u"c:\\pomzu");
   files.make_folder(u"c:\\pomzu\\cserko");
   files.write(u"c:\\pomzu\\cserko\\szótagoló.ini", " 4 \r\n 1 \r\n");
+}
+
+// The reading check is on.
+void set_up_viewer(Files& files) {
+  files.make_folder(u"c:\\pomzu");
+  files.make_folder(u"c:\\pomzu\\cserko");
+  files.write(u"c:\\pomzu\\cserko\\betűnézegető.ini",
+              " 12 \r\n 0 \r\n 1 \r\nFalse\r\nTrue\r\n 0 \r\nTrue\r\nFalse\r\n");
 }
 
 Game scrambled_word(Session& session, bool by_keyboard) {
@@ -113,6 +122,20 @@ Game letter_sorting(Session& session, bool by_keyboard) {
   return game;
 }
 
+// There is no panel and no praise: the pictures that were found are counted.
+Game letter_viewer(Session& session, bool by_keyboard) {
+  using Mode = ExercisePlayer::Mode;
+  constexpr int set = BetűnézegetőPlayer::set;
+  auto player = std::make_unique<BetűnézegetőPlayer>(session, by_keyboard ? Mode::Keyboard : Mode::Mouse, 3);
+  Game game{.window = u"frm_betűnézegető", .tasks = set};
+  game.sets = [&player = *player] { return player.found() / set; };
+  game.wrong_answers = [&player = *player] { return player.wrong_answers(); };
+  game.gathered = [&player = *player](Window&) { return player.found() % set; };
+  listen_to_answers(game, session);
+  game.player = std::move(player);
+  return game;
+}
+
 Game syllabifier(Session& session, bool by_keyboard) {
   return strip_game<frm_szótagoló, SzótagolóPlayer>(session, u"frm_szótagoló", by_keyboard);
 }
@@ -133,6 +156,7 @@ constexpr std::array entries{GameEntry{"scrambled_word", keep_settings, scramble
                              GameEntry{"letter_sorting", set_up_sorting, letter_sorting},
                              GameEntry{"picture_memory", set_up_memory, picture_memory},
                              GameEntry{"syllabifier", set_up_syllables, syllabifier},
+                             GameEntry{"letter_viewer", set_up_viewer, letter_viewer},
                              GameEntry{"surplus_letter", keep_settings, surplus_letter},
                              GameEntry{"sentence_to_picture", keep_settings, sentence_to_picture},
                              GameEntry{"true_or_false", keep_settings, true_or_false}};
