@@ -1,4 +1,4 @@
-// The stops of the tour in Picture memory, Syllabifier, Sentence to picture and True or false.
+// The stops of the tour in Letter sorting, Picture memory, Syllabifier, Sentence to picture and True or false.
 #pragma once
 
 #include "core/session.h"

@@ -168,7 +168,7 @@ void lay_out_other_exercises(Guide& guide, const Session& session) {
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.dialogs = {u"frm_főablak_beállítások", u"frm_hangbeáll", u"frm_zenebeáll", u"frm_cserkó_beáll",
-                   u"frm_képmem_beáll",        u"dlg_szótagoló", u"Névjegy"};
+                   u"frm_képmem_beáll",        u"dlg_szótagoló", u"Névjegy",       u"frm_betűválogatás_beállítás"};
   lay_out_main_window(guide, session);
   lay_out_figures(guide, session);
   lay_out_sounds(guide);

@@ -46,4 +46,9 @@ void WatchedPlatform::redraw(Window& window) {
   if (redrawn) redrawn(window);
 }
 
+void WatchedPlatform::next_frame(Window& window) {
+  QtPlatform::next_frame(window);
+  if (redrawn) redrawn(window);
+}
+
 } // namespace cserko

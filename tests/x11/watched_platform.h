@@ -24,7 +24,7 @@ class WatchedPlatform : public QtPlatform {
   std::deque<double> chance;
   /// Pictures that count as missing, by their path.
   std::set<Text> missing_pictures;
-  /// Called behind each redraw that the suite asks for.
+  /// Called behind each redraw that the suite asks for, and each frame of an animation.
   std::function<void(Window&)> redrawn;
 
   /// Whether the window is on the screen, at the front, and has the keyboard.
@@ -37,6 +37,7 @@ class WatchedPlatform : public QtPlatform {
   double random() override;
   PicturePtr load_picture(const Text& path) override;
   void redraw(Window& window) override;
+  void next_frame(Window& window) override;
 };
 
 } // namespace cserko
