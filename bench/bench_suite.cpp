@@ -7,6 +7,7 @@
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/exercises.h"
 #include "exercises/letters/frm_betűfelesleg.h"
+#include "exercises/letters/frm_betűhiány.h"
 #include "exercises/letters/frm_betűnézegető.h"
 #include "exercises/letters/frm_betűválogatás.h"
 #include "exercises/letters/frm_cserkó.h"
@@ -226,6 +227,7 @@ BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMi
 BENCHMARK_CAPTURE(ten_times_the_records, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(new_puzzle)->ArgName("exactly_8_letters")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(2000);
 BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_viewer, &frm_betűnézegető::véletlenkép)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);

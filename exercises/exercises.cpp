@@ -2,6 +2,7 @@
 
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_betűfelesleg.h"
+#include "exercises/letters/frm_betűhiány.h"
 #include "exercises/letters/frm_betűnézegető.h"
 #include "exercises/letters/frm_betűválogatás.h"
 #include "exercises/letters/frm_cserkó.h"
@@ -17,6 +18,7 @@ void install_exercises(Session& session) {
   session.offer<frm_betűfelesleg>(u"frm_betűfelesleg");
   session.offer<frm_betűnézegető>(u"frm_betűnézegető");
   session.offer<frm_betűválogatás>(u"frm_betűválogatás");
+  session.offer<frm_betűhiány>(u"frm_betűhiány");
   session.offer<frm_cserkó>(u"frm_cserkó");
   session.offer<frm_igazhamis>(u"frm_igazhamis");
   session.offer<frm_képhatározó>(u"frm_képhatározó");

@@ -4,6 +4,7 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "tests/data_sounds/pack_files.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűhiány_player.h"
 #include "tests/players/betűnézegető_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
@@ -119,7 +120,7 @@ TEST_F(BuiltPackTest, LetterViewerFindsThePicturesOfThePack) {
 
 template<class P> class EachExerciseOnThePack : public BuiltPackTest {};
 using Players = ::testing::Types<BetűfeleslegPlayer, BetűválogatásPlayer, IgazhamisPlayer, MondatképPlayer,
-                                 SzótagolóPlayer, KépmemóriaPlayer>;
+                                 SzótagolóPlayer, KépmemóriaPlayer, BetűhiányPlayer>;
 TYPED_TEST_SUITE(EachExerciseOnThePack, Players);
 
 TYPED_TEST(EachExerciseOnThePack, IsSolvedSetAfterSetWithTheFactorySettings) {

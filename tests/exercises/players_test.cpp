@@ -3,6 +3,7 @@
 #include "tests/exercises/exercise_fixture.h"
 #include "tests/exercises/picture_memory_fixture.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűhiány_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/headless_hand.h"
 #include "tests/players/igazhamis_player.h"
@@ -93,7 +94,7 @@ class ExercisePlayersTest : public ExerciseTest {
 
 template<class P> class EachPlayerTest : public ExercisePlayersTest {};
 using Players = ::testing::Types<BetűfeleslegPlayer, BetűválogatásPlayer, IgazhamisPlayer, MondatképPlayer,
-                                 SzótagolóPlayer, KépmemóriaPlayer>;
+                                 SzótagolóPlayer, KépmemóriaPlayer, BetűhiányPlayer>;
 TYPED_TEST_SUITE(EachPlayerTest, Players);
 
 TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {

@@ -7,6 +7,7 @@
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűhiány_player.h"
 #include "tests/players/betűnézegető_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
@@ -42,6 +43,7 @@ Players all_players(Session& session) {
   constexpr auto keyboard = ExercisePlayer::Mode::Keyboard;
   Players players;
   players.push_back(std::make_unique<BetűválogatásPlayer>(session, mouse, mistakes));
+  players.push_back(std::make_unique<BetűhiányPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<CserkóPlayer>(session, CserkóPlayer::Mode::Mouse, mistakes));
   players.push_back(std::make_unique<BetűfeleslegPlayer>(session, mouse, mistakes));
   players.push_back(std::make_unique<BetűnézegetőPlayer>(session, keyboard, mistakes));

@@ -4,6 +4,7 @@
 #include "exercises/sentences/frm_mondatkép.h"
 #include "feedback/frm_hangbeáll.h"
 #include "tests/players/betűfelesleg_player.h"
+#include "tests/players/betűhiány_player.h"
 #include "tests/players/betűnézegető_player.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/cserkó_player.h"
@@ -144,6 +145,10 @@ Game surplus_letter(Session& session, bool by_keyboard) {
   return strip_game<frm_betűfelesleg, BetűfeleslegPlayer>(session, u"frm_betűfelesleg", by_keyboard);
 }
 
+Game missing_letter(Session& session, bool by_keyboard) {
+  return strip_game<frm_betűhiány, BetűhiányPlayer>(session, u"frm_betűhiány", by_keyboard);
+}
+
 Game sentence_to_picture(Session& session, bool by_keyboard) {
   return strip_game<frm_mondatkép, MondatképPlayer>(session, u"frm_mondatkép", by_keyboard);
 }
@@ -154,6 +159,7 @@ Game true_or_false(Session& session, bool by_keyboard) {
 
 constexpr std::array entries{GameEntry{"scrambled_word", keep_settings, scrambled_word},
                              GameEntry{"letter_sorting", set_up_sorting, letter_sorting},
+                             GameEntry{"missing_letter", keep_settings, missing_letter},
                              GameEntry{"picture_memory", set_up_memory, picture_memory},
                              GameEntry{"syllabifier", set_up_syllables, syllabifier},
                              GameEntry{"letter_viewer", set_up_viewer, letter_viewer},
