@@ -1,16 +1,9 @@
 // The persistent drawing of a picture box or a window. Places and sizes are in twips from its left top corner.
 #pragma once
 
-#include "platform/elements.h"
+#include "platform/pixel_grid.h"
 
 namespace cserko {
-
-/// Pixels row by row, 15 twips a side each.
-struct PixelImage {
-  int width = 0;
-  int height = 0;
-  std::vector<Color> pixels;
-};
 
 class Canvas {
  public:
@@ -36,9 +29,13 @@ class Canvas {
   /// The colour at a place, white where nothing was drawn or outside.
   virtual Color point(Point place) const = 0;
   virtual void set_point(Point place, Color color) = 0;
+  /// The drawing as pixels of 15 twips a side.
   virtual PixelImage pixels() const = 0;
   /// Puts pixels in from the left top corner; what does not fit is cut off.
   virtual void set_pixels(const PixelImage& image) = 0;
+
+  /// The points themselves, as fine as the machine shows them.
+  virtual PixelGrid& grid() = 0;
 
   virtual Size size() const = 0;
   /// Grows with every drawing, so that a machine knows when to show it again.

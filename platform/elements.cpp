@@ -49,6 +49,8 @@ TextView role(ElementKind kind) {
     return u"folyamatjelző";
   case ElementKind::Line:
     return u"vonal";
+  case ElementKind::Shape:
+    return u"keret";
   case ElementKind::Timer:
     return u"időzítő";
   case ElementKind::MenuItem:
@@ -361,6 +363,8 @@ ProgressBar::ProgressBar(Parent parent, TextView name, Rect place)
     : Element(ElementKind::ProgressBar, parent, name, place, {}) {}
 
 Line::Line(Parent parent, TextView name, Rect place) : Element(ElementKind::Line, parent, name, place, {}) {}
+
+Shape::Shape(Parent parent, TextView name, Rect place) : Element(ElementKind::Shape, parent, name, place, {}) {}
 
 Timer::Timer(Parent parent, TextView name, int interval, bool enabled)
     : Element(ElementKind::Timer, parent, name, {}, {}), Interval(interval) {

@@ -138,6 +138,7 @@ enum class ElementKind : std::uint8_t {
   ScrollBar,
   ProgressBar,
   Line,
+  Shape,
   Timer,
   MenuItem
 };
@@ -255,6 +256,7 @@ class PictureBox : public Element {
   ~PictureBox() override;
 
   PicturePtr Picture; ///< Fills the box, under the drawing.
+  int DrawWidth = 1;  ///< Width of the lines that a window draws on it, pixels.
 
   /// The persistent drawing, made at the box's size when first asked for.
   Canvas& canvas();
@@ -454,6 +456,12 @@ class Line : public Element {
   Line(Parent parent, TextView name, Rect place);
   double BorderWidth = twips_per_pixel;
   bool Rising = false; ///< From the left bottom to the right top corner instead.
+};
+
+/// The outline of a rectangle, one pixel wide. Like a line it lets the mouse through.
+class Shape : public Element {
+ public:
+  Shape(Parent parent, TextView name, Rect place);
 };
 
 /// An interval shorter than 10 ms means "as fast as the machine likes": machines then fire every `idle_pace` ms, at

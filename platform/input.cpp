@@ -262,7 +262,8 @@ Element* element_at(const Window& window, Point place, const Element* except) {
   const std::vector<Element*> elements = window.stacking();
   const auto hit = std::find_if(elements.rbegin(), elements.rend(), [&](const Element* element) {
     const ElementKind kind = element->kind();
-    const bool flat = kind == ElementKind::Line || kind == ElementKind::MenuItem || kind == ElementKind::Timer;
+    const bool flat = kind == ElementKind::Line || kind == ElementKind::Shape || kind == ElementKind::MenuItem ||
+                      kind == ElementKind::Timer;
     const Point corner = element->position_in_window();
     return !flat && element != except && element->shown() &&
            inside(*element, {MouseButton::None, 0, place.x - corner.x, place.y - corner.y});

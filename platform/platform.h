@@ -2,7 +2,9 @@
 #pragma once
 
 #include "platform/canvas.h"
+#include "platform/dialogs.h"
 #include "platform/media.h"
+#include "platform/printing.h"
 #include "platform/window.h"
 
 #include <optional>
@@ -78,6 +80,8 @@ class Platform {
   virtual void show(Window& window) = 0;
   virtual void hide(Window& window) = 0;
   virtual void bring_to_front(Window& window) = 0;
+  /// Whether a window has the user's attention: it is at the front, and no dialog of the system stands before it.
+  virtual bool is_active(const Window& window) const = 0;
   /// Shows what has changed at once.
   virtual void redraw(Window& window) = 0;
   /// Redraws and waits for the next display frame: the step of an animation.
@@ -100,7 +104,15 @@ class Platform {
   virtual Size measure_wrapped(const Font& font, TextView text, double width) const = 0;
   /// The picture of a file, null if there is none that can be drawn.
   virtual PicturePtr load_picture(const Text& path) = 0;
+  /// The picture that a file's content holds, in its own size; none if it is none.
+  virtual std::optional<PixelImage> decode_picture(std::string_view bytes) const = 0;
   virtual std::unique_ptr<Canvas> make_canvas(Size size) = 0;
+  /// The picture on the clipboard, none if there is none.
+  virtual std::optional<PixelImage> clipboard_image() const = 0;
+
+  // The system's own dialogs and the printer.
+  virtual Dialogs& dialogs() = 0;
+  virtual Printing& printing() = 0;
 
   // Sound, files, other programs.
   virtual Media& media() = 0;

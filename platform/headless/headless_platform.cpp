@@ -1,5 +1,6 @@
 #include "platform/headless/headless_platform.h"
 
+#include "platform/bitmap.h"
 #include "platform/headless/text_metrics.h"
 #include "platform/input.h"
 
@@ -116,6 +117,8 @@ void HeadlessPlatform::set_picture(const Text& path, const PixelImage& image) {
   if (!files_.exists(path)) files_.put(path, "picture");
   picture_images_[MemoryFiles::folded(path)] = std::make_shared<PixelImage>(image);
 }
+
+std::optional<PixelImage> HeadlessPlatform::decode_picture(std::string_view bytes) const { return read_bitmap(bytes); }
 
 std::unique_ptr<Canvas> HeadlessPlatform::make_canvas(Size size) { return std::make_unique<RecordedCanvas>(size); }
 

@@ -5,6 +5,7 @@
 #include "platform/headless/memory_files.h"
 #include "platform/headless/recorded_canvas.h"
 #include "platform/headless/recorded_media.h"
+#include "platform/headless/scripted_dialogs.h"
 #include "platform/headless/timer_queue.h"
 
 #include <deque>
@@ -59,6 +60,7 @@ class HeadlessPlatform : public Platform {
   int frames = 0;
   bool processes_fail = false; ///< No program can be started.
   std::set<Text> programs;     ///< Paths at which a program lies.
+  std::optional<PixelImage> clipboard;
   /// What the registry holds, by key and name.
   std::map<std::pair<Text, Text>, Text> registry;
 
@@ -122,6 +124,7 @@ class HeadlessPlatform : public Platform {
   void show(Window& window) override;
   void hide(Window& window) override;
   void bring_to_front(Window& window) override;
+  bool is_active(const Window& window) const override { return active_window() == &window && !dialogs_.standing(); }
   void redraw(Window& window) override;
   void next_frame(Window& window) override;
   void live_frame(Window& window, const std::function<bool()>& until) override;
@@ -133,7 +136,13 @@ class HeadlessPlatform : public Platform {
   Size measure(const Font& font, TextView text) const override;
   Size measure_wrapped(const Font& font, TextView text, double width) const override;
   PicturePtr load_picture(const Text& path) override;
+  /// Bitmaps alone.
+  std::optional<PixelImage> decode_picture(std::string_view bytes) const override;
   std::unique_ptr<Canvas> make_canvas(Size size) override;
+  std::optional<PixelImage> clipboard_image() const override { return clipboard; }
+
+  ScriptedDialogs& dialogs() override { return dialogs_; }
+  RecordedPrinting& printing() override { return printing_; }
 
   RecordedMedia& media() override { return media_; }
   MemoryFiles& files() override { return files_; }
@@ -177,6 +186,8 @@ class HeadlessPlatform : public Platform {
   std::map<Text, std::shared_ptr<const PixelImage>> picture_images_;
   MemoryFiles files_;
   RecordedMedia media_;
+  ScriptedDialogs dialogs_{files_};
+  RecordedPrinting printing_{dialogs_};
   mutable std::int64_t steps_ = 0;
   mutable std::exception_ptr failure_;
   mutable bool ended_ = false;

@@ -74,7 +74,10 @@ bool MemoryFiles::exists(const Text& path) const { return find(inside(path)) != 
 
 std::optional<std::string> MemoryFiles::read(const Text& given) const {
   ++reads_;
-  const Text path = inside(given);
+  return read_chosen(inside(given));
+}
+
+std::optional<std::string> MemoryFiles::read_chosen(const Text& path) const {
   const File* file = find(path);
   if (file == nullptr || unreadable_.count(folded(path)) != 0) return std::nullopt;
   return file->bytes;
@@ -89,8 +92,13 @@ bool MemoryFiles::writable(const Text& folded_path) const {
 
 void MemoryFiles::write(const Text& given, std::string_view bytes) {
   const Text path = inside(given);
-  const Text key = folded(path);
   if (path.empty()) fail(u"Ide nem lehet írni", given);
+  write_chosen(path, bytes);
+  if (watch) watch(u"write", path);
+}
+
+void MemoryFiles::write_chosen(const Text& path, std::string_view bytes) {
+  const Text key = folded(path);
   if (folders_.count(key.substr(0, folder_length(key))) == 0) fail(u"A mappa nem létezik", path);
   if (folders_.count(key) != 0 || !writable(key)) fail(u"A fájl nem írható", path);
   if (free_space && bytes.size() > *free_space) fail(u"Megtelt a lemez", path);
@@ -98,7 +106,6 @@ void MemoryFiles::write(const Text& given, std::string_view bytes) {
   const std::size_t freed = before == nullptr ? 0 : before->bytes.size();
   if (free_space) *free_space += freed - bytes.size();
   store(path, bytes);
-  if (watch) watch(u"write", path);
 }
 
 void MemoryFiles::make_folder(const Text& path) {

@@ -22,6 +22,11 @@ class MemoryFiles : public Files {
   void make_folder(const Text& path) override;
   void remove(const Text& path) override;
 
+  /// Content of a file that a person has chosen, wherever it lies; none if it cannot be read.
+  std::optional<std::string> read_chosen(const Text& path) const;
+  /// Writes such a file. Throws FileError, the old file whole.
+  void write_chosen(const Text& path, std::string_view bytes);
+
   /// Told of each file that the suite writes or removes, behind the deed: "write" or "remove", and its path.
   std::function<void(TextView deed, const Text& path)> watch;
 

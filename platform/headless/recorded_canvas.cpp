@@ -22,12 +22,6 @@ int pixel(double twips) {
 // A drawing that goes on for hours forgets its oldest operations and keeps what they left on the raster.
 constexpr std::size_t most_drawings = 20000;
 
-std::size_t offset(const PixelImage& image, int x, int y) {
-  return static_cast<std::size_t>(y) * static_cast<std::size_t>(image.width) + static_cast<std::size_t>(x);
-}
-
-bool contains(const PixelImage& image, int x, int y) { return x >= 0 && y >= 0 && x < image.width && y < image.height; }
-
 // The largest place of the picture's aspect in the middle of the given one.
 Rect fitted(Size picture, Rect place) {
   if (picture.width <= 0 || picture.height <= 0) return place;
@@ -91,13 +85,13 @@ Color RecordedCanvas::point(Point place) const {
   const PixelImage& image = raster();
   const int x = pixel(place.x);
   const int y = pixel(place.y);
-  return contains(image, x, y) ? image.pixels[offset(image, x, y)] : white;
+  return image.contains(x, y) ? image.at(x, y) : white;
 }
 
 void RecordedCanvas::set_point(Point place, Color color) {
   // Points go straight into the raster: a flood of them must not become a list of as many drawings.
   raster();
-  put(pixel(place.x), pixel(place.y), color);
+  mark(pixel(place.x), pixel(place.y), color);
   const bool goes_on =
       !drawings_.empty() && drawings_.back().kind == Drawing::Kind::Points && drawings_.back().color == color;
   if (goes_on) {
@@ -115,7 +109,7 @@ PixelImage RecordedCanvas::pixels() const { return raster(); }
 void RecordedCanvas::set_pixels(const PixelImage& image) {
   const PixelImage& target = raster();
   for (int y = 0; y < std::min(image.height, target.height); ++y) {
-    for (int x = 0; x < std::min(image.width, target.width); ++x) put(x, y, image.pixels[offset(image, x, y)]);
+    for (int x = 0; x < std::min(image.width, target.width); ++x) mark(x, y, image.at(x, y));
   }
   add({.kind = Drawing::Kind::Pixels});
   rasterized_ = drawings_.size();
@@ -129,11 +123,41 @@ std::vector<Text> RecordedCanvas::texts() const {
   return texts;
 }
 
+void RecordedCanvas::put(int column, int row, Color color) {
+  raster().at(column, row) = color;
+  ++revision_;
+}
+
+void RecordedCanvas::run(int row, int first, int behind, Color color) {
+  PixelImage& image = raster();
+  for (int column = first; column < behind; ++column) image.at(column, row) = color;
+  ++revision_;
+}
+
+PixelImage RecordedCanvas::copy(const GridRect& place) const {
+  const PixelImage& image = raster();
+  const GridRect part = inside(place);
+  PixelImage result{std::max(0, part.right - part.left), std::max(0, part.bottom - part.top), {}};
+  for (int row = part.top; row < part.bottom && !part.empty(); ++row) {
+    const Color* first = &image.pixels[static_cast<std::size_t>(row) * static_cast<std::size_t>(image.width)];
+    result.pixels.insert(result.pixels.end(), first + part.left, first + part.right);
+  }
+  return result;
+}
+
+void RecordedCanvas::paste(int left, int top, const PixelImage& image) {
+  raster();
+  for (int y = 0; y < image.height; ++y) {
+    for (int x = 0; x < image.width; ++x) mark(left + x, top + y, image.at(x, y));
+  }
+  ++revision_;
+}
+
 PixelImage& RecordedCanvas::raster() const {
   if (raster_.pixels.empty()) {
     raster_.width = std::max(0, pixel(size_.width));
     raster_.height = std::max(0, pixel(size_.height));
-    raster_.pixels.assign(offset(raster_, 0, raster_.height), white);
+    raster_.pixels.assign(static_cast<std::size_t>(raster_.width) * static_cast<std::size_t>(raster_.height), white);
   }
   for (; rasterized_ < drawings_.size(); ++rasterized_) rasterize(drawings_[rasterized_]);
   return raster_;
@@ -185,7 +209,7 @@ void RecordedCanvas::rasterize_picture(const Drawing& drawing) const {
   const int height = std::max(1, pixel(place.height));
   for (int y = std::max(0, -top); y < std::min(height, raster_.height - top); ++y) {
     for (int x = std::max(0, -left); x < std::min(width, raster_.width - left); ++x)
-      put(left + x, top + y, image.pixels[offset(image, x * image.width / width, y * image.height / height)]);
+      mark(left + x, top + y, image.at(x * image.width / width, y * image.height / height));
   }
 }
 
@@ -221,12 +245,12 @@ void RecordedCanvas::fill(Rect place, Color color) const {
 
 void RecordedCanvas::fill_pixels(int left, int top, int right, int bottom, Color color) const {
   for (int y = std::max(0, top); y < std::min(raster_.height, bottom); ++y) {
-    for (int x = std::max(0, left); x < std::min(raster_.width, right); ++x) put(x, y, color);
+    for (int x = std::max(0, left); x < std::min(raster_.width, right); ++x) mark(x, y, color);
   }
 }
 
-void RecordedCanvas::put(int x, int y, Color color) const {
-  if (contains(raster_, x, y)) raster_.pixels[offset(raster_, x, y)] = color;
+void RecordedCanvas::mark(int x, int y, Color color) const {
+  if (raster_.contains(x, y)) raster_.at(x, y) = color;
 }
 
 } // namespace cserko

@@ -39,7 +39,7 @@ class HeadlessPicture : public Picture {
   std::shared_ptr<const PixelImage> image_;
 };
 
-class RecordedCanvas : public Canvas {
+class RecordedCanvas : public Canvas, private PixelGrid {
  public:
   /// A canvas of that size in twips; the raster has one pixel for each 15 of them.
   explicit RecordedCanvas(Size size) : size_(size) {}
@@ -56,6 +56,7 @@ class RecordedCanvas : public Canvas {
   void set_point(Point place, Color color) override;
   PixelImage pixels() const override;
   void set_pixels(const PixelImage& image) override;
+  PixelGrid& grid() override { return *this; }
   Size size() const override { return size_; }
   std::uint64_t revision() const override { return revision_; }
 
@@ -67,6 +68,16 @@ class RecordedCanvas : public Canvas {
   int clearings() const { return clearings_; }
 
  private:
+  // The points of the raster. What is written here is no drawing of its own: a flood of points is not written down.
+  int columns() const override { return raster().width; }
+  int rows() const override { return raster().height; }
+  double pitch() const override { return twips_per_pixel; }
+  Color at(int column, int row) const override { return raster().at(column, row); }
+  void put(int column, int row, Color color) override;
+  void run(int row, int first, int behind, Color color) override;
+  PixelImage copy(const GridRect& place) const override;
+  void paste(int left, int top, const PixelImage& image) override;
+
   void add(Drawing drawing);
   PixelImage& raster() const;
   void rasterize(const Drawing& drawing) const;
@@ -75,7 +86,7 @@ class RecordedCanvas : public Canvas {
   void rasterize_ellipse(const Drawing& drawing) const;
   void fill(Rect place, Color color) const;
   void fill_pixels(int left, int top, int right, int bottom, Color color) const;
-  void put(int x, int y, Color color) const;
+  void mark(int x, int y, Color color) const;
 
   Size size_;
   std::vector<Drawing> drawings_;

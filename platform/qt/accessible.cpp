@@ -22,6 +22,7 @@ QAccessible::Role role_of(ElementKind kind) {
   case ElementKind::ProgressBar:
     return QAccessible::ProgressBar;
   case ElementKind::Line:
+  case ElementKind::Shape:
     return QAccessible::Separator;
   default:
     return QAccessible::NoRole;

@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStyleOptionButton>
+#include <QTabletEvent>
 #include <algorithm>
 
 namespace cserko {
@@ -33,6 +34,7 @@ class ElementWidget : public QWidget {
   ElementWidget(QWidget* parent, Element& element, ViewContext& context)
       : QWidget(parent), element_(element), context_(context) {
     setMouseTracking(true);
+    setTabletTracking(true);
   }
 
  protected:
@@ -54,11 +56,25 @@ class ElementWidget : public QWidget {
     send(event, to_mouse_button(event->button()),
          [](Element& to, const MouseEvent& mouse) { input::mouse_up(to, mouse); });
   }
+  // The pen of a graphics tablet is a mouse whose tip is the left button.
+  void tabletEvent(QTabletEvent* event) override {
+    const auto send_on = [&](MouseButton button, auto handler) { send(event, button, handler); };
+    if (event->type() == QEvent::TabletPress) {
+      send_on(to_mouse_button(event->button()),
+              [](Element& to, const MouseEvent& mouse) { input::mouse_down(to, mouse); });
+    } else if (event->type() == QEvent::TabletMove) {
+      send_on(held_button(event->buttons()),
+              [](Element& to, const MouseEvent& mouse) { input::mouse_move(to, mouse); });
+    } else if (event->type() == QEvent::TabletRelease) {
+      send_on(to_mouse_button(event->button()),
+              [](Element& to, const MouseEvent& mouse) { input::mouse_up(to, mouse); });
+    }
+  }
   void focusInEvent(QFocusEvent*) override { update(); }
   void focusOutEvent(QFocusEvent*) override { update(); }
 
  private:
-  template<class F> void send(QMouseEvent* event, MouseButton button, F handler) {
+  template<class F> void send(QSinglePointEvent* event, MouseButton button, F handler) {
     event->accept();
     if (button == MouseButton::None && !element_.MouseMove) return;
     // The element may have moved since the event was made: its present place counts.
@@ -213,6 +229,7 @@ class ButtonWidget : public QPushButton {
                      : underMouse() ? theme::button_hover
                                     : theme::button);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
+    if (button_.Picture) paint_picture(painter);
     painter.setPen(text_color(*this, button_));
     const double padding = 60 * scale;
     paint_caption(painter, QRectF(rect()).adjusted(padding, 0, -padding, 0), button_, context_, Qt::AlignCenter, true);
@@ -220,6 +237,16 @@ class ButtonWidget : public QPushButton {
   }
 
  private:
+  void paint_picture(QPainter& painter) {
+    constexpr double share = 0.7; // of the shorter side: the button around it stays a button
+    const double ratio = devicePixelRatioF();
+    const QSize box = (QSizeF(size()) * ratio * share).toSize();
+    const QImage image = static_cast<const QtPicture&>(*button_.Picture).image(box);
+    QRectF place(QPointF(), QSizeF(image.size()) / ratio);
+    place.moveCenter(QRectF(rect()).center());
+    painter.drawImage(place, image);
+  }
+
   Button& button_;
   ViewContext& context_;
 };
@@ -227,7 +254,19 @@ class ButtonWidget : public QPushButton {
 class ButtonView : public View {
  public:
   ButtonView(Button& button, ViewContext& context, QWidget* parent)
-      : View(button, context, new ButtonWidget(parent, button, context)) {}
+      : View(button, context, new ButtonWidget(parent, button, context)), button_(button) {}
+
+ protected:
+  bool sync_content() override {
+    if (picture_ == button_.Picture) return false;
+    picture_ = button_.Picture;
+    widget().update();
+    return true;
+  }
+
+ private:
+  Button& button_;
+  PicturePtr picture_;
 };
 
 /// A check box or option button whose caption wraps. `Native` paints the mark.
@@ -390,6 +429,23 @@ class LineView : public View {
   bool rising_ = false;
 };
 
+/// An outline that follows the mouse and lets it through.
+class ShapeWidget : public QWidget {
+ public:
+  ShapeWidget(QWidget* parent, ViewContext& context) : QWidget(parent), context_(context) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    paint_border(painter, rect(), theme::text, context_.fonts.scale());
+  }
+
+ private:
+  ViewContext& context_;
+};
+
 } // namespace
 
 std::unique_ptr<View> make_view(Element& element, ViewContext& context, QWidget* parent) {
@@ -408,6 +464,8 @@ std::unique_ptr<View> make_view(Element& element, ViewContext& context, QWidget*
     return std::make_unique<View>(element, context, new FrameWidget(parent, element, context));
   case ElementKind::Line:
     return std::make_unique<LineView>(static_cast<Line&>(element), context, parent);
+  case ElementKind::Shape:
+    return std::make_unique<View>(element, context, new ShapeWidget(parent, context));
   case ElementKind::Timer:
   case ElementKind::MenuItem:
     return nullptr;

@@ -70,7 +70,10 @@ QString picture_file(const QString& path) {
 std::shared_ptr<const LoadedPicture> load_picture(const QString& path) {
   QFile file(picture_file(path));
   if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > kMostFileBytes) return nullptr;
-  const QByteArray bytes = file.read(kMostFileBytes);
+  return read_picture(file.read(kMostFileBytes));
+}
+
+std::shared_ptr<const LoadedPicture> read_picture(const QByteArray& bytes) {
   const QByteArray format = raster_format(bytes);
   if (format.isEmpty()) {
     std::optional<Metafile> metafile = Metafile::parse(bytes);

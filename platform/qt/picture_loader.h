@@ -42,6 +42,8 @@ QString picture_file(const QString& path);
 /// Reads a picture. The content tells what it is, not the name. Null when there is no such file, when it cannot be
 /// drawn, or when it is above the limits (32 MB, 40 million pixels).
 std::shared_ptr<const LoadedPicture> load_picture(const QString& path);
+/// The same for what a file holds.
+std::shared_ptr<const LoadedPicture> read_picture(const QByteArray& bytes);
 
 /// Pictures and their drawn images by path, the least recently used given up first. A file that has changed (time or
 /// size) is read again. For use on one thread.

@@ -8,7 +8,7 @@
 
 namespace cserko {
 
-class QtCanvas : public Canvas {
+class QtCanvas : public Canvas, private PixelGrid {
  public:
   /// `size` in twips; `device_ratio` is the number of device pixels to a device-independent one.
   QtCanvas(Size size, const Fonts& fonts, double device_ratio);
@@ -25,6 +25,7 @@ class QtCanvas : public Canvas {
   void set_point(Point place, Color color) override;
   PixelImage pixels() const override;
   void set_pixels(const PixelImage& image) override;
+  PixelGrid& grid() override { return *this; }
   Size size() const override { return size_; }
   std::uint64_t revision() const override { return revision_; }
 
@@ -33,6 +34,18 @@ class QtCanvas : public Canvas {
   QRectF take_changes() const;
 
  private:
+  // The points are those of the device (qt_pixel_grid.cpp).
+  int columns() const override { return image_.width(); }
+  int rows() const override { return image_.height(); }
+  double pitch() const override { return 1 / (fonts_.scale() * image_.devicePixelRatio()); }
+  Color at(int column, int row) const override;
+  void put(int column, int row, Color color) override;
+  void run(int row, int first, int behind, Color color) override;
+  PixelImage copy(const GridRect& place) const override;
+  void paste(int left, int top, const PixelImage& image) override;
+  QRgb* row_to_write(int row);
+  void changed_points(const QRect& points);
+
   QPointF to_pixels(Point place) const;
   QRectF to_pixels(Rect place) const;
   int device_pixel(double twips) const;

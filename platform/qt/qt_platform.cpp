@@ -1,8 +1,10 @@
 #include "platform/qt/qt_platform.h"
 
+#include "platform/bitmap.h"
 #include "platform/input.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/qt_canvas.h"
+#include "platform/qt/qt_images.h"
 #include "platform/qt/qt_picture.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/sdl_media.h"
@@ -10,6 +12,7 @@
 #include "platform/suite_path.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDateTime>
 #include <QFileInfo>
 #include <QIcon>
@@ -183,6 +186,9 @@ bool QtPlatform::eventFilter(QObject* object, QEvent* event) {
     return false;
   case QEvent::MouseButtonRelease:
   case QEvent::MouseMove:
+  case QEvent::TabletPress:
+  case QEvent::TabletMove:
+  case QEvent::TabletRelease:
     return quiet_ && live_view(object) != nullptr;
   case QEvent::KeyPress: {
     WindowView* view = view_that_hears(object);
@@ -383,6 +389,16 @@ void QtPlatform::bring_to_front(Window& window) {
   if (WindowView* view = view_of(window)) view->raise();
 }
 
+void QtPlatform::stand_before(Window& owner, const std::function<void()>& dialog) {
+  sync_all();
+  ++dialogs_standing_;
+  dialog();
+  --dialogs_standing_;
+  if (ended_ || active_window() != &owner) return;
+  active_ = nullptr;
+  activate(owner);
+}
+
 void QtPlatform::paint_now(WindowView& view) {
   if (!view.windowHandle()->isExposed()) let_paint(QEventLoop::ExcludeUserInputEvents);
   QCoreApplication::sendPostedEvents(&view, QEvent::UpdateRequest);
@@ -397,6 +413,7 @@ bool QtPlatform::show_changes(Window& window) {
 
 void QtPlatform::redraw(Window& window) {
   // A display shows no more than its frames. What comes within one is shown with the next, or when events run again.
+  was_deaf_ = was_deaf_ || !window.Enabled;
   if (redrawn_ == &window && since_redraw_.elapsed() < frame_ms) return;
   if (!show_changes(window)) return;
   redrawn_ = &window;
@@ -469,6 +486,14 @@ PicturePtr QtPlatform::load_picture(const Text& path) {
   return std::make_shared<QtPicture>(path, file, pictures_,
                                      Size{size.width() * twips_per_pixel, size.height() * twips_per_pixel});
 }
+
+std::optional<PixelImage> QtPlatform::decode_picture(std::string_view bytes) const {
+  if (bytes.starts_with("BM")) return read_bitmap(bytes);
+  const auto picture = read_picture(QByteArray(bytes.data(), static_cast<qsizetype>(bytes.size())));
+  return picture ? from_qt(picture->image(picture->natural_size())) : std::nullopt;
+}
+
+std::optional<PixelImage> QtPlatform::clipboard_image() const { return from_qt(QGuiApplication::clipboard()->image()); }
 
 std::unique_ptr<Canvas> QtPlatform::make_canvas(Size size) {
   return std::make_unique<QtCanvas>(size, fonts_, QGuiApplication::primaryScreen()->devicePixelRatio());

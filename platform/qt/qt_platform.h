@@ -5,6 +5,8 @@
 #include "platform/qt/files.h"
 #include "platform/qt/fonts.h"
 #include "platform/qt/picture_loader.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_printing.h"
 #include "platform/qt/window_view.h"
 
 #include <QElapsedTimer>
@@ -41,6 +43,8 @@ class QtPlatform : public QObject, public Platform {
   void sync_all();
   /// Runs something the user did, then shows what it changed; modal shows whose window it has closed return.
   void act(const std::function<void()>& deed);
+  /// Lets a dialog of the system stand before a window, which is activated again when it is gone.
+  void stand_before(Window& owner, const std::function<void()>& dialog);
 
   std::int64_t now() const override { return clock_.elapsed(); }
   TimeOfDay time_of_day() const override;
@@ -53,6 +57,7 @@ class QtPlatform : public QObject, public Platform {
   void show(Window& window) override;
   void hide(Window& window) override;
   void bring_to_front(Window& window) override;
+  bool is_active(const Window& window) const override { return active_window() == &window && dialogs_standing_ == 0; }
   void redraw(Window& window) override;
   void next_frame(Window& window) override;
   void live_frame(Window& window, const std::function<bool()>& until) override;
@@ -66,7 +71,11 @@ class QtPlatform : public QObject, public Platform {
     return fonts_.measure_wrapped(font, text, width);
   }
   PicturePtr load_picture(const Text& path) override;
+  std::optional<PixelImage> decode_picture(std::string_view bytes) const override;
   std::unique_ptr<Canvas> make_canvas(Size size) override;
+  std::optional<PixelImage> clipboard_image() const override;
+  Dialogs& dialogs() override { return dialogs_; }
+  Printing& printing() override { return printing_; }
 
   Media& media() override;
   Files& files() override { return files_; }
@@ -125,6 +134,9 @@ class QtPlatform : public QObject, public Platform {
   Fonts fonts_;
   ViewContext context_;
   PictureCache pictures_;
+  QtDialogs dialogs_{*this};
+  QtPrinting printing_{*this};
+  int dialogs_standing_ = 0;
   std::unique_ptr<SdlMedia> media_;
   std::mt19937_64 random_;
   QElapsedTimer clock_;

@@ -13,7 +13,8 @@ constexpr int events_between_homecomings = 300;
 constexpr int most_steps_home = 200;
 
 bool drawn_kind(ElementKind kind) {
-  return kind != ElementKind::Timer && kind != ElementKind::MenuItem && kind != ElementKind::Line;
+  return kind != ElementKind::Timer && kind != ElementKind::MenuItem && kind != ElementKind::Line &&
+         kind != ElementKind::Shape;
 }
 
 bool is_leaf(const Element& item) {
