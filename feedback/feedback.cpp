@@ -2,6 +2,7 @@
 
 #include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_hangbeáll.h"
+#include "feedback/frm_rajz.h"
 #include "feedback/frm_zenebeáll.h"
 #include "feedback/message_panels.h"
 #include "feedback/sounds.h"
@@ -19,6 +20,7 @@ void install_feedback(Session& session) {
   session.offer<frm_hangbeáll>(u"frm_hangbeáll");
   session.offer<frm_zenebeáll>(u"frm_zenebeáll");
   session.offer<frm_dobszerkó>(u"frm_dobszerkó");
+  session.offer<frm_rajz>(u"frm_rajz");
 }
 
 } // namespace cserko

@@ -35,6 +35,19 @@ void copy_files(const MemoryFiles& from, MemoryFiles& to) {
   for (const Text& path : from.all()) to.put(path, from.read(path).value_or(""));
 }
 
+// What the person chooses in the system's dialogs: mostly something, now and then nothing. Giving up a save is told as
+// an error, which would end the run: a file to save is always chosen.
+void choose_in_dialogs(HeadlessPlatform& machine) {
+  constexpr TextView picture = u"c:\\cserko\\rajz.bmp";
+  ScriptedDialogs& dialogs = machine.dialogs();
+  if (dialogs.files_to_save.empty()) dialogs.files_to_save = {Text(picture)};
+  if (dialogs.files_to_open.empty())
+    dialogs.files_to_open = {machine.files().exists(Text(picture)) ? std::optional(Text(picture)) : std::nullopt,
+                             std::nullopt};
+  if (dialogs.colors.empty()) dialogs.colors = {Color{200, 30, 90}, std::nullopt};
+  machine.clipboard = PixelImage{2, 2, {black, white, white, black}};
+}
+
 using Players = std::vector<std::unique_ptr<Player>>;
 
 Players all_players(Session& session) {
@@ -63,6 +76,7 @@ bool run(CountingMachine& machine, RestlessPerson& person, Census& census) {
   HeadlessHand hand(machine);
   Players players;
   std::size_t turn = 0;
+  machine.dialogs().while_standing = [&machine] { choose_in_dialogs(machine); };
   person.sensible = [&](Window& top) {
     if (players.empty()) players = all_players(session);
     // In the main window the next player starts an exercise; elsewhere whoever knows the window plays on.

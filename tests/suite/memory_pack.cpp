@@ -1,7 +1,9 @@
 #include "tests/suite/memory_pack.h"
 
 #include "core/codepage.h"
+#include "platform/bitmap.h"
 
+#include <algorithm>
 #include <array>
 
 namespace cserko {
@@ -29,6 +31,19 @@ constexpr std::array<Sample, 44> samples{{
 
 void put_text(MemoryFiles& files, TextView path, TextView content) {
   files.put(Text(app) + Text(path), to_cp1250(content));
+}
+
+// A black frame on white paper.
+PixelImage colouring_page() {
+  constexpr int side = 40;
+  PixelImage page{side, side, {}};
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      const int edge = std::min({x, y, side - 1 - x, side - 1 - y});
+      page.pixels.push_back(edge == 4 || edge == 5 ? black : white);
+    }
+  }
+  return page;
 }
 
 } // namespace
@@ -71,6 +86,8 @@ void put_sample_pack(MemoryFiles& files) {
         u"hangok\\b.wav", u"hangok\\c.wav", u"hangok\\dob\\1.wav", u"hangok\\dob\\2.wav", u"dysmid\\a.mid",
         u"dysmid\\b.mid", u"dicskép\\1.wmf", u"dicskép\\2.wmf", u"dicskép\\3.png"})
     put_text(files, file, u"x");
+  for (const TextView page : {u"cserko\\kifest\\0.kif", u"cserko\\kifest\\1.kif"})
+    files.put(Text(app) + Text(page), write_bitmap(colouring_page()));
   put_text(files, u"cserko\\grathang.ini", u" 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\na.wav\r\nb.wav\r\n");
   put_text(files, u"cserko\\helyeshang.ini", u"b.wav\r\n");
   put_text(files, u"cserko\\hibahang.ini", u"c.wav\r\na.wav\r\n");
