@@ -30,6 +30,9 @@ void build_colouring(const BuildPaths& paths);
 /// The window icon and the paper behind the windows; needs no icons and no table.
 void build_look(const BuildPaths& paths);
 
+/// The pictures on the buttons of the drawing board, into a folder; part of the look.
+void build_tool_pictures(const QString& folder);
+
 /// One sheet of all pictures of a folder (`table`) with their names, for the eye.
 void build_contact_sheet(const BuildPaths& paths);
 

@@ -1,5 +1,5 @@
-// The look of the windows: the program's icon, the paper behind everything and the back of the cards. Drawn by code,
-// the same on each machine.
+// The look of the windows: the program's icon, the paper behind everything, the back of the cards and the tools of the
+// drawing board. Drawn by code, the same on each machine.
 #include "data/builder/builder.h"
 #include "data/pack/metafile_device.h"
 #include "data/pack/table.h"
@@ -138,6 +138,7 @@ void build_look(const BuildPaths& paths) {
   write_if_changed(paths.output + "/cserko-icon.png", png_of(window_icon()));
   write_if_changed(paths.output + "/paper.png", png_of(paper()));
   write_if_changed(paths.output + "/kártyahát.wmf", card_back());
+  build_tool_pictures(paths.output);
 }
 
 } // namespace cserko

@@ -15,10 +15,10 @@ namespace cserko {
 namespace {
 
 constexpr int kPixels = kPageSide * kPageSide;
-constexpr int kLineRadius = 3;     // pixels: a line is about twice as broad
-constexpr int kLikeColors = 36;    // colours that differ less, in every channel, count as one
-constexpr int kDarkest = 90;       // of 255: darker small areas are painted black
-constexpr int kSmallestBlack = 40; // pixels: a smaller dark area is a speck and not an eye
+constexpr int kLineRadius = 6;      // pixels: a line is about twice as broad
+constexpr int kLikeColors = 36;     // colours that differ less, in every channel, count as one
+constexpr int kDarkest = 90;        // of 255: darker small areas are painted black
+constexpr int kSmallestBlack = 160; // pixels: a smaller dark area is a speck and not an eye
 
 using Labels = std::vector<int>; // an area number for each pixel, row by row
 

@@ -8,11 +8,11 @@
 
 namespace cserko {
 
-/// Side of a colouring page in pixels.
-inline constexpr int kPageSide = 600;
+/// Side of a colouring page in pixels: as fine as the drawing board of a large screen shows it.
+inline constexpr int kPageSide = 1200;
 
 /// The smallest area that a child can be asked to fill, in pixels of the page.
-inline constexpr int kSmallestArea = 350;
+inline constexpr int kSmallestArea = 1400;
 
 /// The page of a picture whose shapes lie on the square 0..kMetafileSide: pure black on pure white, one bit a pixel.
 /// Every white area is closed by a line and no smaller than kSmallestArea; what would be smaller is joined to its
