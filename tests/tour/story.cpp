@@ -9,6 +9,7 @@
 #include "feedback/message_panels.h"
 #include "feedback/névjegy.h"
 #include "platform/input.h"
+#include "tests/tour/drawing_stops.h"
 #include "tests/tour/exercise_stops.h"
 #include "tests/tour/scrambled_word_stops.h"
 
@@ -167,13 +168,15 @@ void lay_out_other_exercises(Guide& guide, const Session& session) {
 } // namespace
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
-  guide.dialogs = {u"frm_főablak_beállítások", u"frm_hangbeáll", u"frm_zenebeáll", u"frm_cserkó_beáll",
-                   u"frm_képmem_beáll",        u"dlg_szótagoló", u"Névjegy",       u"frm_betűválogatás_beállítás"};
+  guide.dialogs = {u"frm_főablak_beállítások", u"frm_hangbeáll",    u"frm_zenebeáll",
+                   u"frm_cserkó_beáll",        u"frm_képmem_beáll", u"dlg_szótagoló",
+                   u"frm_színezőmegnyitás",    u"Névjegy",          u"frm_betűválogatás_beállítás"};
   lay_out_main_window(guide, session);
   lay_out_figures(guide, session);
   lay_out_sounds(guide);
   lay_out_music(guide);
   lay_out_drum(guide);
+  lay_out_drawing(guide);
   lay_out_panels(guide, session);
   lay_out_scrambled_word(guide, session, platform);
   lay_out_exercises(guide, session, platform);

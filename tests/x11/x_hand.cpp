@@ -21,12 +21,21 @@ struct Symbol {
 };
 
 // Key symbols of the server for the keys that type no character.
-constexpr std::array symbols{
-    Symbol{key::backspace, 0xff08}, Symbol{key::tab, 0xff09},     Symbol{key::enter, 0xff0d},
-    Symbol{key::escape, 0xff1b},    Symbol{key::page_up, 0xff55}, Symbol{key::page_down, 0xff56},
-    Symbol{key::end, 0xff57},       Symbol{key::home, 0xff50},    Symbol{key::left, 0xff51},
-    Symbol{key::up, 0xff52},        Symbol{key::right, 0xff53},   Symbol{key::down, 0xff54},
-    Symbol{key::insert, 0xff63},    Symbol{key::delete_, 0xffff}};
+constexpr std::array symbols{Symbol{key::backspace, 0xff08},
+                             Symbol{key::tab, 0xff09},
+                             Symbol{key::enter, 0xff0d},
+                             Symbol{key::escape, 0xff1b},
+                             Symbol{key::page_up, 0xff55},
+                             Symbol{key::page_down, 0xff56},
+                             Symbol{key::end, 0xff57},
+                             Symbol{key::home, 0xff50},
+                             Symbol{key::left, 0xff51},
+                             Symbol{key::up, 0xff52},
+                             Symbol{key::right, 0xff53},
+                             Symbol{key::down, 0xff54},
+                             Symbol{190, 0x2e},
+                             Symbol{key::insert, 0xff63},
+                             Symbol{key::delete_, 0xffff}};
 constexpr std::uint32_t shift_symbol = 0xffe1;
 constexpr std::uint32_t control_symbol = 0xffe3;
 constexpr std::uint32_t alt_symbol = 0xffe9;

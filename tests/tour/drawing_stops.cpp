@@ -1,0 +1,109 @@
+#include "tests/tour/drawing_stops.h"
+
+#include "core/frm_főablak.h"
+#include "feedback/frm_rajz.h"
+#include "feedback/frm_színezőmegnyitás.h"
+#include "platform/input.h"
+#include "tests/tour/tour_hand.h"
+
+namespace cserko::tour {
+
+namespace {
+
+constexpr TextView main_window = u"frm_főablak";
+constexpr TextView drawing = u"frm_rajz";
+constexpr TextView pages = u"frm_színezőmegnyitás";
+
+class Visit {
+ public:
+  explicit Visit(Guide& guide) : guide_(guide) {}
+
+  void act(std::function<void(frm_rajz&)> deed) {
+    guide_.act(drawing, [deed = std::move(deed)](Window& window) { deed(static_cast<frm_rajz&>(window)); });
+  }
+  void look(const std::string& name) { guide_.picture(drawing, name); }
+  void choose(int tool, int swatch) {
+    act([tool, swatch](frm_rajz& board) {
+      input::click(board.cmd_művelet[tool]);
+      board.szín.Click(swatch);
+    });
+  }
+
+  /// Presses at the first place and moves along the others, parts of the paper's sides; lets go unless `held`.
+  void draw(const std::vector<Point>& path, bool held = false) {
+    act([path, held](frm_rajz& board) {
+      const auto event = [&](Point part) {
+        return MouseEvent{MouseButton::Left, shift::none, part.x * board.kép.Width, part.y * board.kép.Height};
+      };
+      input::mouse_down(board.kép, event(path.front()));
+      for (const Point part : path) input::mouse_move(board.kép, event(part));
+      if (!held) input::mouse_up(board.kép, event(path.back()));
+    });
+  }
+
+ private:
+  Guide& guide_;
+};
+
+void draw_with_tools(Visit& visit) {
+  visit.look("drawing-empty");
+  visit.choose(frm_rajz::pen, 13);
+  visit.draw({{0.05, 0.5}, {0.1, 0.3}, {0.15, 0.6}, {0.2, 0.3}, {0.25, 0.6}, {0.3, 0.2}});
+  visit.choose(frm_rajz::rectangle, 4);
+  visit.draw({{0.4, 0.2}, {0.9, 0.9}});
+  visit.draw({{0.45, 0.3}, {0.8, 0.7}}, true);
+  visit.look("drawing-rectangle-stretched");
+  visit.draw({{0.8, 0.7}});
+  visit.choose(frm_rajz::straight_line, 10);
+  visit.draw({{0.1, 0.9}, {0.35, 0.6}}, true);
+  visit.look("drawing-line-stretched");
+  visit.choose(frm_rajz::fill, 25);
+  visit.draw({{0.6, 0.85}});
+  visit.look("drawing-filled");
+  visit.choose(frm_rajz::eraser, 25);
+  visit.act([](frm_rajz& board) {
+    board.vonalvastagság.Click(4);
+    input::mouse_move(board.kép,
+                      MouseEvent{MouseButton::None, shift::none, 0.7 * board.kép.Width, 0.85 * board.kép.Height});
+  });
+  visit.look("drawing-eraser");
+}
+
+void draw_by_keyboard(Visit& visit) {
+  visit.act([](frm_rajz&) {
+    for (const Qt::Key key : {Qt::Key_1, Qt::Key_Right, Qt::Key_Space, Qt::Key_Right, Qt::Key_Down}) press_key(key);
+  });
+  visit.look("drawing-by-keyboard");
+  visit.act([](frm_rajz& board) { input::focus(board.szín[25]); });
+  visit.look("drawing-focus-on-colour");
+  visit.act([](frm_rajz&) { touch_mouse(); });
+}
+
+void colour_a_page(Guide& guide, Visit& visit) {
+  visit.act([](frm_rajz& board) { input::click(board.cmd_színező); });
+  guide.picture(pages, "colouring-pages");
+  guide.act(pages, [](Window& window) { input::select(static_cast<frm_színezőmegnyitás&>(window).File1, 3); });
+  guide.picture(pages, "colouring-page-chosen");
+  guide.act(pages, [](Window& window) { input::click(static_cast<frm_színezőmegnyitás&>(window).cmd_ok); });
+  visit.look("colouring-page");
+  visit.choose(frm_rajz::fill, 29);
+  visit.draw({{0.03, 0.03}});
+  visit.choose(frm_rajz::fill, 21);
+  visit.draw({{0.5, 0.5}});
+  visit.choose(frm_rajz::fill, 24);
+  visit.draw({{0.5, 0.3}});
+  visit.look("colouring-page-coloured");
+}
+
+} // namespace
+
+void lay_out_drawing(Guide& guide) {
+  Visit visit(guide);
+  guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
+  draw_with_tools(visit);
+  draw_by_keyboard(visit);
+  colour_a_page(guide, visit);
+  guide.act(drawing, [](Window& window) { input::close(window); });
+}
+
+} // namespace cserko::tour
