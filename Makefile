@@ -1,7 +1,7 @@
 # The commands of the project. Each installs what it needs, builds, and acts; CMake and its presets stand behind.
 SHELL := /bin/sh
 .DEFAULT_GOAL := build
-.PHONY: build run test tour bench fuzz pack check-pack soak lint clean
+.PHONY: build run test tour help-pictures bench fuzz pack check-pack soak lint clean
 
 # Builds and tests speak one language everywhere; the program itself keeps that of the user.
 in_c_locale := env LC_ALL=C.UTF-8
@@ -37,7 +37,7 @@ test:
 	@$(configure_sanitizers)
 	@$(release)
 	@$(sanitizers)
-	@packaging/lint.sh tidy $(logic)
+	@packaging/lint.sh quick $(logic)
 	@printf 'subdirs(release sanitizers)\n' > build/CTestTestfile.cmake
 	@$(in_c_locale) ctest --test-dir build --output-on-failure --no-tests=error -j2
 
@@ -47,6 +47,13 @@ tour:
 	@$(configure_release)
 	@$(release) --target cserko-tour pack
 	@$(in_c_locale) tests/tour/run-tour.sh build/release out/tour
+
+## Pictures of the help that are still missing, from the tour; PICTURES="true_or_false music" makes these anew.
+help-pictures:
+	@$(install) build run test
+	@$(configure_release)
+	@$(release) --target cserko-tour pack
+	@$(in_c_locale) tests/tour/make-help-pictures.sh build/release help/pictures $(PICTURES)
 
 ## Ratios of speed and memory, also in out/bench.
 bench:

@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
   Session session(platform);
   install_feedback(session);
   install_exercises(session);
+  // Those who work on an exercise need not look for its button each time.
+  session.first_exercise = qEnvironmentVariable("CSERKO_EXERCISE").toStdU16String();
   session.Main();
   return 0;
 }

@@ -12,7 +12,7 @@ struct ExerciseEntry {
   TextView window;
 };
 
-inline constexpr std::array<ExerciseEntry, 20> exercise_table{{
+inline constexpr auto exercise_table = std::to_array<ExerciseEntry>({
     {u"&Cserkó", u"frm_cserkó"},
     {u"&Tekergő", u"frmverem"},
     {u"&Betűválogató", u"frm_betűválogatás"},
@@ -33,6 +33,6 @@ inline constexpr std::array<ExerciseEntry, 20> exercise_table{{
     {u"&Igaz-hamis", u"frm_igazhamis"},
     {u"&Mondatpárosító", u"frm_párosító"},
     {u"Szó&Villám", u"frm_szóvillám"},
-}};
+});
 
 } // namespace cserko

@@ -9,6 +9,7 @@
 #include "core/numbers.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace cserko {
 
@@ -111,6 +112,8 @@ void frm_főablak::Activate() {
   read_order_file(settings());
   platform().redraw(*this);
   képváltás_ideje = platform().now();
+  const Text first = std::exchange(session_.first_exercise, {});
+  if (session_.offers(first)) indítás(first);
 }
 
 void frm_főablak::KeyDown(KeyEvent& event) {

@@ -53,6 +53,12 @@ Window& Session::adopt(std::type_index type, std::unique_ptr<Window> window) {
   return adopted;
 }
 
+std::vector<Text> Session::offered() const {
+  std::vector<Text> names;
+  for (const auto& [name, window] : offers_) names.push_back(name);
+  return names;
+}
+
 bool Session::ticked(TextView window_name, TextView check_box) {
   if (!offers(window_name)) return false;
   const Element* element = window(window_name).find(check_box);

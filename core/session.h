@@ -39,6 +39,7 @@ class Session : public Host {
   } hangállapot;
   bool zene_nyitva = false; ///< A title is open and can be paused.
   Feedback feedback;
+  Text first_exercise; ///< What the main window starts as soon as it is seen; empty for nothing.
 
   /// Runs the suite from start to end: sound path, settings, records, main windows until the user leaves.
   void Main();
@@ -60,6 +61,8 @@ class Session : public Host {
     offers_[Text(name)] = [](Session& session) -> Window& { return session.window<W>(); };
   }
   bool offers(TextView name) const { return offers_.count(Text(name)) != 0; }
+  /// The names of all windows that are offered, in order of their codes.
+  std::vector<Text> offered() const;
   /// The offered window of that name, loaded on first touch. Throws std::out_of_range if none is offered.
   Window& window(TextView name) { return offers_.at(Text(name))(*this); }
   /// Whether a check box of an offered window is ticked; False where the window is not offered.

@@ -1,5 +1,6 @@
 #!/bin/sh
 # Looks at the style of the sources: `lint.sh format` at their layout, `lint.sh tidy` at what clang-tidy finds as well.
+# `lint.sh quick` is `tidy` without the paths that lead through the standard library, in half the time.
 # Without further arguments at all sources, also those that git has not been told of, otherwise at the files named.
 set -eu
 
@@ -23,14 +24,18 @@ fi
 
 clang-format --dry-run -Werror "$@"
 echo "Layout: $# files, nothing to mend."
-[ "$what" = tidy ] || exit 0
+case $what in
+tidy) paths= ;;
+quick) paths='--extra-arg=-Xclang --extra-arg=-analyzer-config --extra-arg=-Xclang --extra-arg=c++-stdlib-inlining=false' ;;
+*) exit 0 ;;
+esac
 
 # What the release build compiles; a header is looked at with the sources that include it. The precompiled headers are
 # those of another compiler: each source is read with the headers that it names itself.
 mkdir -p build/tidy
 sed 's/ -Winvalid-pch -include [^ ]*//g' build/release/compile_commands.json >build/tidy/compile_commands.json
 # Of its own accord clang-tidy also counts what it does not show.
-quiet_tidy='out=$(clang-tidy --quiet -p build/tidy --extra-arg=-Wno-unknown-warning-option "$1" 2>&1) && exit
+quiet_tidy='out=$(clang-tidy --quiet -p build/tidy --extra-arg=-Wno-unknown-warning-option '$paths' "$1" 2>&1) && exit
 printf "%s\n" "$out" | grep -v -E "^[0-9]+ warnings? generated\.$"
 exit 1'
 for file; do

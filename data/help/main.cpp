@@ -16,7 +16,11 @@ void build(const QString& pack, const QStringList& sources) {
   const std::filesystem::path folder = pack.toStdU16String();
   std::set<std::string> written;
   for (const PageSource& page : pages) {
-    const QByteArray archive = page_archive(page, page_html(page, names));
+    const HtmlPage html = page_html(page, names);
+    for (const QString& picture : html.missing)
+      std::fprintf(stderr, "%s: no picture %s yet (make help-pictures)\n", qUtf8Printable(page.file),
+                   qUtf8Printable(picture));
+    const QByteArray archive = page_archive(page, html);
     const std::string name = page.name.toStdString();
     write_pack_file(folder, "cserko/help/" + name, archive.toStdString());
     written.insert(name);

@@ -146,13 +146,18 @@ class HtmlWriter {
   QString picture_html(const QTextImageFormat& format) {
     const QString name = format.name();
     const QSize size = QImageReader(QDir(page_.folder).filePath(name)).size();
-    if (!size.isValid()) throw HelpError(page_.file, "no such picture: " + name);
+    const QString meaning = format.property(QTextFormat::ImageAltText).toString().toHtmlEscaped();
+    // Pictures are made last, when the program shows what they are of. Until then the page is built without them.
+    if (!size.isValid()) {
+      result_.missing += name;
+      return missing_picture + meaning + "]";
+    }
     if (!result_.pictures.contains(name)) result_.pictures += name;
     return QString("<img src=\"%1\" width=\"%2\" height=\"%3\" alt=\"%4\">")
         .arg(name)
         .arg(size.width())
         .arg(size.height())
-        .arg(format.property(QTextFormat::ImageAltText).toString().toHtmlEscaped());
+        .arg(meaning);
   }
 
   const PageSource& page_;

@@ -1,12 +1,18 @@
 // The exercises on the headless machine, with records whose every field is written down in the test.
 #pragma once
 
+#include "core/exercise.h"
 #include "core/frame.h"
+#include "core/frm_főablak.h"
 #include "feedback/frm_gratuláció.h"
 #include "feedback/frm_hangbeáll.h"
 #include "feedback/message_panels.h"
 #include "platform/element_array.h"
+#include "tests/players/headless_hand.h"
+#include "tests/players/played_exercise.h"
 #include "tests/suite/suite_fixture.h"
+
+#include <algorithm>
 
 namespace cserko {
 
@@ -42,6 +48,12 @@ class ExerciseTest : public SuiteTest {
   void put(std::initializer_list<Entry> entries) {
     for (const Entry& entry : entries) put(entry);
   }
+  /// Puts records of which all can be drawn, and no other: the last record of a pack never is, so one more follows,
+  /// whose fields are the given ones.
+  void put_only(std::initializer_list<Entry> drawn, const Entry& never_drawn = {.név = u"utolsó"}) {
+    put(drawn);
+    put(never_drawn);
+  }
   static std::string picture_path(int index) { return "c:\\cserko\\kepek\\" + std::to_string(index + 1) + ".wmf"; }
   /// The file that a box shows, "(none)" where it shows none.
   static std::string picture(const PictureBox& box) { return box.Picture ? utf8(box.Picture->path()) : "(none)"; }
@@ -59,6 +71,43 @@ class ExerciseTest : public SuiteTest {
   }
   static inline const std::string good_sound = sound("c:\\cserko\\\\hangok\\good.wav");
   static inline const std::string bad_sound = sound("c:\\cserko\\\\hangok\\bad.wav");
+
+  /// How often a sound was begun, by the bare name of its file.
+  int begun(TextView file) {
+    const Text end = u"\\" + Text(file) + u"\" type waveaudio alias hang";
+    const auto& all = machine.media().commands;
+    return static_cast<int>(
+        std::count_if(all.begin(), all.end(), [&](const Text& command) { return command.ends_with(end); }));
+  }
+
+  /// Plays from the start of the program until so many sets are solved, then leaves.
+  void play(Player& player, int sets) {
+    HeadlessHand hand(machine);
+    machine.deed_time = 20;
+    machine.user = [&](Window& top) {
+      // What the last set has brought up is still to be closed.
+      const bool in_between =
+          dynamic_cast<ExerciseWindow*>(&top) == nullptr && dynamic_cast<frm_főablak*>(&top) == nullptr;
+      if (player.sets() < sets || in_between) return player.step(top, hand);
+      hand::close(top);
+      return true;
+    };
+    session().Main();
+    EXPECT_EQ(player.sets(), sets);
+    EXPECT_TRUE(machine.ended());
+  }
+
+  /// The sounds tell what the exercise itself thought of the answers: a right one for each task, and a wrong one each
+  /// time that the player meant to be. Needs `put_answer_sounds`.
+  void expect_judged(const PlayedExercise& exercise, const Player& player) {
+    const SoundsBegun ears(*this);
+    if (exercise.heard_right != nullptr) {
+      EXPECT_EQ(exercise.heard_right(ears), exercise.tasks * player.sets());
+    }
+    if (exercise.heard_wrong != nullptr) {
+      EXPECT_EQ(exercise.heard_wrong(ears), player.wrong_answers());
+    }
+  }
 
   /// Presses the button of the next congratulation.
   void then_close_congratulation() {
@@ -115,6 +164,17 @@ class ExerciseTest : public SuiteTest {
   }
 
  private:
+  class SoundsBegun : public Ears {
+   public:
+    explicit SoundsBegun(ExerciseTest& test) : test_(test) {}
+    int heard(TextView file) const override { return test_.begun(file); }
+    int heard_right() const override { return heard(u"good.wav"); }
+    int heard_wrong() const override { return heard(u"bad.wav"); }
+
+   private:
+    ExerciseTest& test_;
+  };
+
   int entries_ = 0;
 };
 

@@ -1,22 +1,18 @@
 // The players of the exercises solve a thousand sets each, by mouse and by keyboard, with wrong answers now and then.
-#include "core/frm_főablak.h"
+#include "core/exercise_table.h"
+#include "exercises/exercises.h"
 #include "tests/exercises/exercise_fixture.h"
 #include "tests/exercises/picture_memory_fixture.h"
-#include "tests/players/betűfelesleg_player.h"
-#include "tests/players/betűhiány_player.h"
 #include "tests/players/betűválogatás_player.h"
-#include "tests/players/headless_hand.h"
-#include "tests/players/igazhamis_player.h"
 #include "tests/players/képmemória_player.h"
-#include "tests/players/mondatkép_player.h"
-#include "tests/players/szótagoló_player.h"
 
 #include <algorithm>
+#include <set>
 
 namespace cserko {
 namespace {
 
-using Mode = ExercisePlayer::Mode;
+using Mode = PlayMode;
 
 class ExercisePlayersTest : public ExerciseTest {
  protected:
@@ -33,14 +29,7 @@ class ExercisePlayersTest : public ExerciseTest {
                                           {u"utolsó", u"u-tol-só"}})
       put_full(name, syllables);
     for (const TextView word : memory_words) put_full(Text(word), Text(word));
-    put_settings(u"szótagoló.ini", {u" 4 ", u" 0 "});
-    // Flights of ten frames.
     put_app_file(u"betűpár.kvl", u"a-e\r\nk-l\r\n");
-    put_settings(u"betűválogató.ini", {u" 1 ", u" 1 ", u"True", u"False", u" 0 ", u" 14 "});
-    // Six pairs, one second of waiting, two frames of half a turn.
-    put_app_file(u"cserko\\képmem.ini",
-                 u" 6 \r\n 12 \r\n 1 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\n 1 \r\n 0 \r\n"
-                 u" 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
     start();
     put_answer_sounds();
   }
@@ -52,81 +41,83 @@ class ExercisePlayersTest : public ExerciseTest {
          .igaz = name + u" igaz állítása.",
          .hamis = name + u" hamis állítása."});
   }
-
-  /// Plays from the start of the program until so many sets are solved, then leaves.
-  void play(ExercisePlayer& player, int sets) {
-    HeadlessHand hand(machine);
-    machine.deed_time = 20;
-    machine.user = [&](Window& top) {
-      // The panel of the last set is still to be closed.
-      const bool panel = dynamic_cast<frm_gratuláció*>(&top) != nullptr;
-      if (player.sets() < sets || panel) return player.step(top, hand);
-      hand::close(top);
-      return true;
-    };
-    session().Main();
-    EXPECT_EQ(player.sets(), sets);
-    EXPECT_TRUE(machine.ended());
-  }
-
-  /// How often a sound was begun.
-  int begun(TextView file) {
-    const Text end = u"\\" + Text(file) + u"\" type waveaudio alias hang";
-    const auto& all = machine.media().commands;
-    return static_cast<int>(
-        std::count_if(all.begin(), all.end(), [&](const Text& command) { return command.ends_with(end); }));
-  }
-  /// The sounds tell what the exercise itself thought of the answers: six right ones in each set, and wrong each time
-  /// that the player meant to be.
-  void expect_judged(const ExercisePlayer& player, int tasks = 6) {
-    EXPECT_EQ(begun(u"good.wav"), tasks * player.sets());
-    EXPECT_EQ(begun(u"bad.wav"), player.wrong_answers());
-  }
-  void expect_judged(const BetűválogatásPlayer& player) {
-    expect_judged(static_cast<const ExercisePlayer&>(player), frm_betűválogatás::places);
-  }
-  /// Picture memory moves two cards up for each pair that it swallows, and two up and back for each wrong one.
-  void expect_judged(const KépmemóriaPlayer& player, int pairs = 6) {
-    EXPECT_EQ(begun(u"swallow1.wav"), pairs * player.sets());
-    EXPECT_EQ(begun(u"Moving.wav"), 2 * pairs * player.sets() + 4 * player.wrong_answers());
-  }
 };
 
-template<class P> class EachPlayerTest : public ExercisePlayersTest {};
-using Players = ::testing::Types<BetűfeleslegPlayer, BetűválogatásPlayer, IgazhamisPlayer, MondatképPlayer,
-                                 SzótagolóPlayer, KépmemóriaPlayer, BetűhiányPlayer>;
-TYPED_TEST_SUITE(EachPlayerTest, Players);
+class EachPlayerTest : public ExercisePlayersTest, public ::testing::WithParamInterface<PlayedExercise> {
+ protected:
+  EachPlayerTest() {
+    exercise().prepare(machine.files());
+    put_settings(u"szótagoló.ini", {u" 4 ", u" 0 "}); // words of one syllable as well
+  }
+  static const PlayedExercise& exercise() { return GetParam(); }
+  std::unique_ptr<Player> player(Mode mode, int mistakes) { return exercise().make(session(), mode, mistakes); }
+};
 
-TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {
-  TypeParam player(this->session(), Mode::Mouse, 5);
-  this->play(player, 1000);
-  EXPECT_GE(player.wrong_answers(), 1000);
-  this->expect_judged(player);
+INSTANTIATE_TEST_SUITE_P(Played, EachPlayerTest, ::testing::ValuesIn(played_exercises()),
+                         [](const auto& tested) { return std::string(tested.param.name); });
+
+TEST_P(EachPlayerTest, SolvesAThousandSetsByMouseWithMistakes) {
+  const auto solver = player(Mode::Mouse, 5);
+  play(*solver, 1000);
+  EXPECT_GE(solver->wrong_answers(), 1000 * exercise().tasks / 6);
+  expect_judged(exercise(), *solver);
 }
 
-TYPED_TEST(EachPlayerTest, SolvesAThousandSetsByKeyboardAloneWithMistakes) {
-  TypeParam player(this->session(), Mode::Keyboard, 5);
-  this->play(player, 1000);
-  EXPECT_GE(player.wrong_answers(), 1000);
-  this->expect_judged(player);
+TEST_P(EachPlayerTest, SolvesAThousandSetsByKeyboardAloneWithMistakes) {
+  const auto solver = player(Mode::Keyboard, 5);
+  play(*solver, 1000);
+  EXPECT_GE(solver->wrong_answers(), 1000 * exercise().tasks / 6);
+  expect_judged(exercise(), *solver);
 }
 
-TYPED_TEST(EachPlayerTest, SolvesSetsWithoutAnyMistake) {
-  TypeParam player(this->session(), Mode::Mouse);
-  this->play(player, 20);
-  EXPECT_EQ(player.wrong_answers(), 0);
-  this->expect_judged(player);
+TEST_P(EachPlayerTest, SolvesSetsWithoutAnyMistake) {
+  const auto solver = player(Mode::Mouse, 0);
+  play(*solver, 20);
+  EXPECT_EQ(solver->wrong_answers(), 0);
+  expect_judged(exercise(), *solver);
+}
+
+// What an exercise is offered as, without the windows of the layers below.
+std::vector<std::string> offered_exercises() {
+  HeadlessPlatform machine;
+  Session session(machine);
+  install_exercises(session);
+  std::vector<std::string> names;
+  for (const Text& name : session.offered()) names.push_back(utf8(name));
+  return names;
+}
+
+TEST(OfferedExercises, StandInTheTableOfTheMainWindow) {
+  std::multiset<std::string> table;
+  for (const ExerciseEntry& entry : exercise_table) table.insert(utf8(entry.window));
+  for (const std::string& name : offered_exercises()) EXPECT_EQ(table.count(name), 1U) << name;
+}
+
+TEST(OfferedExercises, HaveAPlayerEach) {
+  std::vector<std::string> played;
+  for (const PlayedExercise& exercise : played_exercises()) played.push_back(utf8(exercise.window));
+  std::sort(played.begin(), played.end());
+  std::vector<std::string> offered = offered_exercises();
+  std::erase(offered, "frmverem"); // has none yet
+  std::erase(played, "frmverem");
+  EXPECT_EQ(played, offered);
+}
+
+TEST_F(ExercisePlayersTest, EveryExerciseIsOfferedUnderItsOwnName) {
+  for (const std::string& name : offered_exercises()) EXPECT_EQ(utf8(session().window(from_utf8(name)).Name), name);
 }
 
 class DirectionModeTest : public ExercisePlayersTest {
  protected:
   void practise(Mode mode) {
+    put_settings(u"betűválogató.ini", {u" 1 ", u" 1 ", u"True", u"False", u" 0 ", u" 14 "});
     BetűválogatásPlayer player(session(), mode, 5);
     load<frm_betűválogatás_beállítás>().chk_iránygyakoroltatása.set_value(1);
     play(player, 200);
     EXPECT_GE(player.wrong_answers(), 200);
     EXPECT_GE(player.directions(), frm_betűválogatás::places * 200) << "all but the first answer";
-    expect_judged(player);
+    EXPECT_EQ(begun(u"good.wav"), frm_betűválogatás::places * player.sets());
+    EXPECT_EQ(begun(u"bad.wav"), player.wrong_answers());
   }
 };
 
@@ -137,20 +128,25 @@ TEST_F(DirectionModeTest, TheSortingPlayerSaysTheSidesByKeyboard) { practise(Mod
 class FullBoardTest : public ExercisePlayersTest {
  protected:
   FullBoardTest() { put_app_file(u"cserko\\képmem.ini", u" 18 \r\n"); }
+  /// Two cards move up for each pair that is swallowed, and two up and back for each wrong one.
+  void expect_pairs_heard(const Player& player, int pairs) {
+    EXPECT_EQ(begun(u"swallow1.wav"), pairs * player.sets());
+    EXPECT_EQ(begun(u"Moving.wav"), 2 * pairs * player.sets() + 4 * player.wrong_answers());
+  }
 };
 
 TEST_F(FullBoardTest, TheMemoryPlayerClearsFullBoardsByMouse) {
   KépmemóriaPlayer player(session(), Mode::Mouse, 5);
   play(player, 20);
   EXPECT_GE(player.wrong_answers(), 60);
-  expect_judged(player, 18);
+  expect_pairs_heard(player, 18);
 }
 
 TEST_F(FullBoardTest, TheMemoryPlayerClearsFullBoardsByKeyboardAndAsksForHelpByItsKey) {
   KépmemóriaPlayer player(session(), Mode::Keyboard, 5);
   play(player, 20);
   EXPECT_GE(player.wrong_answers(), 60);
-  expect_judged(player, 18);
+  expect_pairs_heard(player, 18);
   EXPECT_GE(player.helps(), 60);
 }
 

@@ -1,5 +1,6 @@
 #include "tests/players/betűfelesleg_player.h"
 
+#include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
 #include <algorithm>
@@ -44,5 +45,19 @@ void BetűfeleslegPlayer::answer_wrong(frm_betűfelesleg& exercise, const std::v
     mistake_made();
   }
 }
+
+namespace {
+
+const Played played{
+    {.name = "surplus_letter",
+     .window = u"frm_betűfelesleg",
+     .tasks = 6,
+     .make = make_player<BetűfeleslegPlayer>,
+     .gathered = [](Window& window,
+                    const Player&) { return solved_tasks(dynamic_cast<frm_betűfelesleg&>(window).lbl_eredmény); },
+     .heard_right = right_sounds,
+     .heard_wrong = wrong_sounds}};
+
+} // namespace
 
 } // namespace cserko

@@ -1,5 +1,6 @@
 #include "tests/players/betűhiány_player.h"
 
+#include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
 namespace cserko {
@@ -139,5 +140,18 @@ void BetűhiányPlayer::answer(frm_betűhiány& exercise, Hand& hand) const {
     hand.key(key::enter, shift::none);
   }
 }
+
+namespace {
+
+const Played played{
+    {.name = "missing_letter",
+     .window = u"frm_betűhiány",
+     .tasks = 6,
+     .make = make_player<BetűhiányPlayer>,
+     .gathered = [](Window& window) { return solved_tasks(dynamic_cast<frm_betűhiány&>(window).lbl_eredmény); },
+     .heard_right = right_sounds,
+     .heard_wrong = wrong_sounds}};
+
+} // namespace
 
 } // namespace cserko

@@ -1,5 +1,7 @@
 #include "tests/players/betűnézegető_player.h"
 
+#include "tests/players/played_exercise.h"
+
 namespace cserko {
 
 namespace {
@@ -44,5 +46,29 @@ void BetűnézegetőPlayer::go_on(frm_betűnézegető& exercise, Hand& hand) {
     hand.click(exercise.kép);
   }
 }
+
+namespace {
+
+const Played played{{.name = "letter_viewer",
+                     .window = u"frm_betűnézegető",
+                     .tasks = BetűnézegetőPlayer::set,
+                     .make = make_player<BetűnézegetőPlayer>,
+                     // There is no panel and no praise: the pictures that were found are counted.
+                     .gathered =
+                         [](Window&, const Player& player) {
+                           return dynamic_cast<const BetűnézegetőPlayer&>(player).found() % BetűnézegetőPlayer::set;
+                         },
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds,
+                     .prepare =
+                         [](Files& files) {
+                           // The reading check is on.
+                           files.make_folder(u"c:\\pomzu");
+                           files.make_folder(u"c:\\pomzu\\cserko");
+                           files.write(u"c:\\pomzu\\cserko\\betűnézegető.ini",
+                                       " 12 \r\n 0 \r\n 1 \r\nFalse\r\nTrue\r\n 0 \r\nTrue\r\nFalse\r\n");
+                         }}};
+
+} // namespace
 
 } // namespace cserko

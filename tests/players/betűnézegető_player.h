@@ -15,6 +15,7 @@ class BetűnézegetőPlayer : public ExercisePlayer {
   /// The exercise has no end: so many pictures found are called a set.
   static constexpr int set = 6;
   int found() const { return found_; }
+  int sets() const override { return found_ / set; }
 
  protected:
   bool play(Window& window, Hand& hand) override;

@@ -2,6 +2,7 @@
 
 #include "core/kszöveg.h"
 #include "exercises/shared/frm_irányválasztó.h"
+#include "tests/players/played_exercise.h"
 
 namespace cserko {
 
@@ -43,5 +44,31 @@ bool BetűválogatásPlayer::play_beside(Window& top, Hand& hand) {
   }
   return true;
 }
+
+namespace {
+
+const Played played{{.name = "letter_sorting",
+                     .window = u"frm_betűválogatás",
+                     .tasks = frm_betűválogatás::places,
+                     .make = make_player<BetűválogatásPlayer>,
+                     .gathered =
+                         [](Window& window) {
+                           int shown = 0;
+                           dynamic_cast<frm_betűválogatás&>(window).eredménykép.each(
+                               [&](const PictureBox& place) { shown += place.shown() ? 1 : 0; });
+                           return shown;
+                         },
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds,
+                     .prepare =
+                         [](Files& files) {
+                           // Flights of ten frames, words of every length.
+                           files.make_folder(u"c:\\pomzu");
+                           files.make_folder(u"c:\\pomzu\\cserko");
+                           files.write(u"c:\\pomzu\\cserko\\betűválogató.ini",
+                                       " 1 \r\n 1 \r\nTrue\r\nFalse\r\n 0 \r\n 14 \r\n");
+                         }}};
+
+} // namespace
 
 } // namespace cserko

@@ -4,6 +4,7 @@
 #include "core/kszöveg.h"
 #include "feedback/frm_gratuláció.h"
 #include "feedback/message_panels.h"
+#include "tests/players/played_exercise.h"
 
 #include <algorithm>
 #include <cmath>
@@ -242,5 +243,17 @@ bool CserkóPlayer::move_letter(frm_cserkó& window, Hand& hand) const {
   }
   return true;
 }
+
+namespace {
+
+const Played played{{.name = "scrambled_word",
+                     .window = u"frm_cserkó",
+                     .tasks = 1,
+                     .make = make_player<CserkóPlayer>,
+                     .gathered = [](Window& window, const Player&) {
+                       return dynamic_cast<frm_cserkó&>(window).lbl_megoldás.Visible ? 1 : 0;
+                     }}};
+
+} // namespace
 
 } // namespace cserko

@@ -11,18 +11,16 @@ namespace cserko {
 
 class CserkóPlayer : public Player {
  public:
-  enum class Mode : std::uint8_t { Mouse, Keyboard };
-
   /// Of every `mistakes` puzzles one gets a wrong answer first and has its helps tried; 0 for none. The records of the
   /// session must be loaded.
   CserkóPlayer(const Session& session, Mode mode, int mistakes = 0);
 
   bool step(Window& top, Hand& hand) override;
 
-  /// Congratulation panels seen so far: words that were solved.
-  int solved() const { return static_cast<int>(congratulations_.size()); }
+  /// Words that were solved: each of them is praised.
+  int sets() const override { return static_cast<int>(congratulations_.size()); }
   /// Panels seen that told of a wrong answer, or of a right one that has no picture.
-  int wrong_answers() const { return static_cast<int>(wrong_panels_.size()); }
+  int wrong_answers() const override { return static_cast<int>(wrong_panels_.size()); }
   /// Panels seen that revealed the beginning of the word.
   int revelations() const { return static_cast<int>(reveal_panels_.size()); }
 

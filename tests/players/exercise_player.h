@@ -11,14 +11,10 @@ namespace cserko {
 
 class ExercisePlayer : public Player {
  public:
-  enum class Mode : std::uint8_t { Mouse, Keyboard };
-
   bool step(Window& top, Hand& hand) final;
 
-  /// Congratulation panels seen so far: sets that were solved.
-  int sets() const { return static_cast<int>(congratulations_.size()); }
-  /// Answers that were given in the knowledge that they are wrong.
-  int wrong_answers() const { return wrong_answers_; }
+  int sets() const override { return static_cast<int>(congratulations_.size()); }
+  int wrong_answers() const final { return wrong_answers_; }
 
  protected:
   /// The exercise by the name of its window. Of every `mistakes` tasks one is answered wrong first; 0 for none.

@@ -1,6 +1,7 @@
 #include "tests/players/igazhamis_player.h"
 
 #include "exercises/sentences/frm_igazhamis.h"
+#include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
 namespace cserko {
@@ -15,5 +16,19 @@ bool IgazhamisPlayer::play(Window& window, Hand& hand) {
   if (choose(statements[wrong ? 1 - right : right], hand) && wrong) mistake_made();
   return true;
 }
+
+namespace {
+
+const Played played{
+    {.name = "true_or_false",
+     .window = u"frm_igazhamis",
+     .tasks = 6,
+     .make = make_player<IgazhamisPlayer>,
+     .gathered = [](Window& window,
+                    const Player&) { return solved_tasks(dynamic_cast<frm_igazhamis&>(window).lbl_eredmény); },
+     .heard_right = right_sounds,
+     .heard_wrong = wrong_sounds}};
+
+} // namespace
 
 } // namespace cserko

@@ -2,6 +2,7 @@
 
 #include "core/settings.h"
 #include "exercises/sentences/frm_képhatározó.h"
+#include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
 namespace cserko {
@@ -20,5 +21,19 @@ bool KéphatározóPlayer::play(Window& window, Hand& hand) {
   if (choose(err ? *wrong : *right, hand) && err) mistake_made();
   return true;
 }
+
+namespace {
+
+const Played played{
+    {.name = "picture_definition",
+     .window = u"frm_képhatározó",
+     .tasks = 6,
+     .make = make_player<KéphatározóPlayer>,
+     .gathered = [](Window& window,
+                    const Player&) { return solved_tasks(dynamic_cast<frm_képhatározó&>(window).lbl_eredmény); },
+     .heard_right = right_sounds,
+     .heard_wrong = wrong_sounds}};
+
+} // namespace
 
 } // namespace cserko

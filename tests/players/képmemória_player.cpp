@@ -1,5 +1,7 @@
 #include "tests/players/képmemória_player.h"
 
+#include "tests/players/played_exercise.h"
+
 namespace cserko {
 
 namespace {
@@ -56,5 +58,37 @@ bool KépmemóriaPlayer::help_first(frm_képmemória& exercise, PictureBox& card
   ++helps_;
   return true;
 }
+
+namespace {
+
+constexpr int pairs = 5; // the fewest that the settings allow
+
+// The two cards of a pair were turned up, two that differ were turned up and back.
+int heard_wrong(const Ears& ears) {
+  const int turns = ears.heard(u"Moving.wav") - 2 * ears.heard(u"swallow1.wav");
+  return turns % 4 == 0 ? turns / 4 : -1;
+}
+
+// Five pairs of a picture and its word, one second to look at two that differ, two frames of half a turn. The game
+// reads the settings of the data pack.
+void prepare(Files& files) {
+  files.write(u"c:\\cserko\\cserko\\képmem.ini",
+              " " + std::to_string(pairs) +
+                  " \r\n 12 \r\n 1 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\nTrue\r\n 1 \r\n 0 \r\n"
+                  " 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
+}
+
+const Played played{
+    {.name = "picture_memory",
+     .window = u"frm_képmemória",
+     .tasks = pairs,
+     .make = make_player<KépmemóriaPlayer>,
+     .gathered = [](Window& window,
+                    const Player&) { return pairs - cards_left(dynamic_cast<frm_képmemória&>(window)) / 2; },
+     .heard_right = [](const Ears& ears) { return ears.heard(u"swallow1.wav"); },
+     .heard_wrong = heard_wrong,
+     .prepare = prepare}};
+
+} // namespace
 
 } // namespace cserko

@@ -2,6 +2,7 @@
 
 #include "core/settings.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
 namespace cserko {
@@ -26,5 +27,19 @@ bool MondatképPlayer::play(Window& window, Hand& hand) {
   if (choose(err ? *wrong : *right, hand) && err) mistake_made();
   return true;
 }
+
+namespace {
+
+const Played played{
+    {.name = "sentence_to_picture",
+     .window = u"frm_mondatkép",
+     .tasks = 6,
+     .make = make_player<MondatképPlayer>,
+     .gathered = [](Window& window,
+                    const Player&) { return solved_tasks(dynamic_cast<frm_mondatkép&>(window).lbl_eredmény); },
+     .heard_right = right_sounds,
+     .heard_wrong = wrong_sounds}};
+
+} // namespace
 
 } // namespace cserko

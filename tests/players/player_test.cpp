@@ -19,7 +19,7 @@ class PlayerTest : public SuiteTest {
     HeadlessHand hand(machine);
     machine.deed_time = 20;
     machine.user = [&](Window& top) {
-      if (player.solved() < words) return player.step(top, hand);
+      if (player.sets() < words) return player.step(top, hand);
       // The panel of the last word is still to be closed.
       if (dynamic_cast<frm_cserkó*>(&top) == nullptr && dynamic_cast<frm_főablak*>(&top) == nullptr)
         return player.step(top, hand);
@@ -33,7 +33,7 @@ class PlayerTest : public SuiteTest {
 TEST_F(PlayerTest, SolvesFiveHundredWordsByMouseWithMistakesAndHelps) {
   CserkóPlayer player(session(), CserkóPlayer::Mode::Mouse, 5);
   play(player, 500);
-  EXPECT_EQ(player.solved(), 500);
+  EXPECT_EQ(player.sets(), 500);
   EXPECT_GE(player.wrong_answers(), 80);
   EXPECT_GE(player.revelations(), 40);
   EXPECT_TRUE(machine.ended());
@@ -42,7 +42,7 @@ TEST_F(PlayerTest, SolvesFiveHundredWordsByMouseWithMistakesAndHelps) {
 TEST_F(PlayerTest, SolvesFiveHundredWordsByKeyboardAloneWithMistakesAndHelps) {
   CserkóPlayer player(session(), CserkóPlayer::Mode::Keyboard, 5);
   play(player, 500);
-  EXPECT_EQ(player.solved(), 500);
+  EXPECT_EQ(player.sets(), 500);
   EXPECT_GE(player.wrong_answers(), 80);
   EXPECT_GE(player.revelations(), 40);
 }
@@ -50,7 +50,7 @@ TEST_F(PlayerTest, SolvesFiveHundredWordsByKeyboardAloneWithMistakesAndHelps) {
 TEST_F(PlayerTest, SolvesWordsWithoutAnyMistake) {
   CserkóPlayer player(session(), CserkóPlayer::Mode::Mouse);
   play(player, 50);
-  EXPECT_EQ(player.solved(), 50);
+  EXPECT_EQ(player.sets(), 50);
   EXPECT_EQ(player.wrong_answers(), 0);
   EXPECT_EQ(player.revelations(), 0);
 }

@@ -6,16 +6,8 @@
 #include "core/session.h"
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
-#include "tests/players/betűfelesleg_player.h"
-#include "tests/players/betűhiány_player.h"
-#include "tests/players/betűnézegető_player.h"
-#include "tests/players/betűválogatás_player.h"
-#include "tests/players/cserkó_player.h"
 #include "tests/players/headless_hand.h"
-#include "tests/players/igazhamis_player.h"
-#include "tests/players/képmemória_player.h"
-#include "tests/players/mondatkép_player.h"
-#include "tests/players/szótagoló_player.h"
+#include "tests/players/played_exercise.h"
 #include "tests/soak/census.h"
 #include "tests/soak/restless_person.h"
 #include "tests/suite/memory_pack.h"
@@ -52,18 +44,11 @@ using Players = std::vector<std::unique_ptr<Player>>;
 
 Players all_players(Session& session) {
   constexpr int mistakes = 3;
-  constexpr auto mouse = ExercisePlayer::Mode::Mouse;
-  constexpr auto keyboard = ExercisePlayer::Mode::Keyboard;
   Players players;
-  players.push_back(std::make_unique<BetűválogatásPlayer>(session, mouse, mistakes));
-  players.push_back(std::make_unique<BetűhiányPlayer>(session, mouse, mistakes));
-  players.push_back(std::make_unique<CserkóPlayer>(session, CserkóPlayer::Mode::Mouse, mistakes));
-  players.push_back(std::make_unique<BetűfeleslegPlayer>(session, mouse, mistakes));
-  players.push_back(std::make_unique<BetűnézegetőPlayer>(session, keyboard, mistakes));
-  players.push_back(std::make_unique<IgazhamisPlayer>(session, mouse, mistakes));
-  players.push_back(std::make_unique<KépmemóriaPlayer>(session, mouse, mistakes));
-  players.push_back(std::make_unique<MondatképPlayer>(session, keyboard, mistakes));
-  players.push_back(std::make_unique<SzótagolóPlayer>(session, keyboard, mistakes));
+  for (const PlayedExercise& exercise : played_exercises()) {
+    const PlayMode mode = players.size() % 2 == 0 ? PlayMode::Mouse : PlayMode::Keyboard;
+    players.push_back(exercise.make(session, mode, mistakes));
+  }
   return players;
 }
 

@@ -59,6 +59,29 @@ TEST_F(MainTest, NoClickAtTheStartWhenItIsTurnedOff) {
   session().Main();
 }
 
+TEST_F(MainTest, AFirstExerciseOpensByItselfOnceAndTheMainWindowIsBehindIt) {
+  session().first_exercise = u"frm_cserkó";
+  then([this](Window& window) {
+    EXPECT_EQ(utf8(window.Name), "frm_cserkó");
+    hand::close(window);
+  });
+  then([](Window& window) {
+    EXPECT_EQ(utf8(window.Name), "frm_főablak");
+    hand::key(window, key::escape);
+  });
+  session().Main();
+  EXPECT_TRUE(machine.ended());
+}
+
+TEST_F(MainTest, AFirstExerciseThatNobodyKnowsLeavesTheMainWindow) {
+  session().first_exercise = u"frm_semmi";
+  then([](Window& window) {
+    EXPECT_EQ(utf8(window.Name), "frm_főablak");
+    hand::key(window, key::escape);
+  });
+  session().Main();
+}
+
 TEST_F(MainTest, WithMusicTurnedOffNoMidiAliasIsEverOpened) {
   put_settings(u"zenebeáll.ini", {u" 0 ", u"a.mid"});
   then([this](Window& window) {

@@ -56,6 +56,22 @@ class MainWindowTest : public SuiteTest {
   frm_főablak& window() { return open<frm_főablak>(); }
 };
 
+TEST_F(MainWindowTest, NoTwoOfItsElementsLieOnEachOther) {
+  std::vector<const Element*> shown;
+  for (const Element* element : window().elements())
+    if (element->shown() && element->Width > 0) shown.push_back(element);
+  ASSERT_GT(shown.size(), expected_buttons.size());
+  for (std::size_t i = 0; i < shown.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      const Rect a = place_of(*shown[i]);
+      const Rect b = place_of(*shown[j]);
+      const bool apart = a.left + a.width <= b.left || b.left + b.width <= a.left || a.top + a.height <= b.top ||
+                         b.top + b.height <= a.top;
+      EXPECT_TRUE(apart) << utf8(shown[i]->Name) << i << " and " << utf8(shown[j]->Name) << j;
+    }
+  }
+}
+
 TEST_F(MainWindowTest, HasItsTitleAndTwentyButtonsInOrder) {
   auto& main = window();
   EXPECT_EQ(utf8(main.Caption), "Tintakő Cserkó");

@@ -1,4 +1,5 @@
-// The stops of the tour in Letter sorting, Picture memory, Syllabifier, Sentence to picture and True or false.
+// The stops of the tour in the exercises: who lays them out in which. Each exercise puts its own on the list in a
+// source of the folder `stops`, with a `Stops` at the end of it.
 #pragma once
 
 #include "core/session.h"
@@ -6,10 +7,16 @@
 
 namespace cserko::tour {
 
-/// From the button in the main window through the states of each exercise back to the main window.
-void lay_out_exercises(Guide& guide, Session& session, WatchedPlatform& platform);
+/// Lays the stops of an exercise out, from its button in the main window through its states back to the main window.
+using LayOut = void (*)(Guide& guide, Session& session, WatchedPlatform& platform);
 
-/// Whether an exercise has stops here.
-bool has_exercise_stops(TextView exercise);
+/// Puts the stops of an exercise on the list as long as the program runs.
+class Stops {
+ public:
+  Stops(TextView window, LayOut lay_out);
+};
+
+/// What lays the stops of an exercise out, null if it has none.
+LayOut stops_in(TextView window);
 
 } // namespace cserko::tour

@@ -1,5 +1,6 @@
 #include "tests/tour/guide.h"
 
+#include "core/settings.h"
 #include "tests/tour/camera.h"
 
 #include <QApplication>
@@ -65,9 +66,15 @@ void Guide::judge(Window& window, const std::string& name, const QImage& image, 
   const QString number = QStringLiteral("%1").arg(++pictures_, 2, 10, QLatin1Char('0'));
   photograph.image().save(folder_ + QLatin1Char('/') + number + QLatin1Char('-') + QString::fromStdString(name) +
                           QStringLiteral(".png"));
+  if (const auto found = for_help_.find(name); found != for_help_.end()) {
+    const QWidget& widget = *platform_.view_of(window);
+    const QRect inside(widget.geometry().topLeft() - widget.frameGeometry().topLeft(), widget.size());
+    if (!write_help_picture(image.copy(inside), found->second, folder_ + QStringLiteral("/help")))
+      fault(name + ": no picture for the help can be made");
+  }
   for (const std::string& what : photograph.faults(window)) fault(name + ": " + what);
-  for (const std::string& what : tour::faults(window, {dialogs.count(window.Name) != 0, intended}))
-    fault(name + ": " + what);
+  const bool dialog = dynamic_cast<SettingsDialog*>(&window) != nullptr || dialogs.count(window.Name) != 0;
+  for (const std::string& what : tour::faults(window, {dialog, intended})) fault(name + ": " + what);
 }
 
 void Guide::start() {

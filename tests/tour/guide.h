@@ -3,12 +3,14 @@
 #pragma once
 
 #include "tests/tour/checks.h"
+#include "tests/tour/help_picture.h"
 #include "tests/x11/watched_platform.h"
 
 #include <QElapsedTimer>
 #include <QImage>
 #include <QObject>
 #include <functional>
+#include <map>
 #include <set>
 
 namespace cserko::tour {
@@ -20,8 +22,13 @@ class Guide : public QObject {
 
   /// The overlaps that are meant to be, for all stops.
   std::vector<Overlap> intended;
-  /// Windows that keep their design size and must fit a low screen.
+  /// Windows that keep their design size and must fit a low screen, besides all settings dialogs.
   std::set<Text> dialogs;
+
+  /// The picture of that name is also one of the help, and so wide there at most.
+  void for_help(const std::string& name, const std::string& help_picture, int width = 622) {
+    for_help_[name] = {help_picture, width};
+  }
 
   /// A stop that acts, once the window of that name is at the front and the condition holds.
   void act(TextView window, std::function<void(Window&)> deed, std::function<bool(Window&)> ready = {});
@@ -62,6 +69,7 @@ class Guide : public QObject {
   WatchedPlatform& platform_;
   QString folder_;
   std::vector<Stop> stops_;
+  std::map<std::string, HelpPicture> for_help_;
   std::size_t next_ = 0;
   std::vector<std::string> faults_;
   QElapsedTimer waiting_;

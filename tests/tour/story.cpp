@@ -11,7 +11,6 @@
 #include "platform/input.h"
 #include "tests/tour/drawing_stops.h"
 #include "tests/tour/exercise_stops.h"
-#include "tests/tour/scrambled_word_stops.h"
 
 #include <algorithm>
 
@@ -153,11 +152,15 @@ void lay_out_panels(Guide& guide, Session& session) {
       guide, session, u"Névjegy", "about", [](Névjegy&) {}, &Névjegy::cmdOK);
 }
 
-// A first look at each exercise that has no stops of its own.
-void lay_out_other_exercises(Guide& guide, const Session& session) {
+// The stops of each exercise, or a first look at one that has none.
+void lay_out_exercises(Guide& guide, Session& session, WatchedPlatform& platform) {
   for (std::size_t i = 0; i < exercise_table.size(); ++i) {
     const TextView exercise = exercise_table[i].window;
-    if (exercise == u"frm_cserkó" || has_exercise_stops(exercise) || !session.offers(exercise)) continue;
+    if (!session.offers(exercise)) continue;
+    if (const LayOut lay_out = stops_in(exercise)) {
+      lay_out(guide, session, platform);
+      continue;
+    }
     guide.act(main_window,
               [i](Window& window) { input::click(as<frm_főablak>(window).cmd_játék[static_cast<int>(i)]); });
     guide.picture(exercise, "exercise-" + std::to_string(i));
@@ -168,9 +171,10 @@ void lay_out_other_exercises(Guide& guide, const Session& session) {
 } // namespace
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
-  guide.dialogs = {u"frm_főablak_beállítások", u"frm_hangbeáll",    u"frm_zenebeáll",
-                   u"frm_cserkó_beáll",        u"frm_képmem_beáll", u"dlg_szótagoló",
-                   u"frm_színezőmegnyitás",    u"Névjegy",          u"frm_betűválogatás_beállítás"};
+  guide.dialogs = {u"frm_hangbeáll", u"frm_zenebeáll", u"frm_színezőmegnyitás", u"Névjegy"};
+  guide.for_help("main-slide-show", "main_window", 602);
+  guide.for_help("event-sounds-selected", "event_sounds", 642);
+  guide.for_help("music-selected-in-both-lists", "music", 522);
   lay_out_main_window(guide, session);
   lay_out_figures(guide, session);
   lay_out_sounds(guide);
@@ -178,9 +182,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   lay_out_drum(guide);
   lay_out_drawing(guide);
   lay_out_panels(guide, session);
-  lay_out_scrambled_word(guide, session, platform);
   lay_out_exercises(guide, session, platform);
-  lay_out_other_exercises(guide, session);
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_kilépés); });
 }
 

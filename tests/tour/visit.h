@@ -5,7 +5,7 @@
 #include "core/frm_főablak.h"
 #include "feedback/frm_gratuláció.h"
 #include "platform/input.h"
-#include "tests/players/exercise_player.h"
+#include "tests/players/player.h"
 #include "tests/players/strip.h"
 #include "tests/tour/exercise_stops.h"
 #include "tests/tour/tour_hand.h"
@@ -52,13 +52,13 @@ template<class Exercise, class Player> class Visit {
   }
 
   void err() const {
-    const auto player = std::make_shared<Player>(session_, ExercisePlayer::Mode::Mouse, 1);
+    const auto player = std::make_shared<Player>(session_, PlayMode::Mouse, 1);
     play(player, [player] { return player->wrong_answers() > 0; });
     look("-wrong-answer");
   }
 
   void solve_until(std::function<bool()> done) const {
-    play(std::make_shared<Player>(session_, ExercisePlayer::Mode::Mouse), std::move(done));
+    play(std::make_shared<Player>(session_, PlayMode::Mouse), std::move(done));
   }
 
   void solve_all() const {

@@ -72,8 +72,14 @@ TEST_F(Builder, PutsPicturesInTheMiddleWithTheirSizeAndMeaning) {
 TEST_F(Builder, RefusesPagesThatCannotBeShown) {
   EXPECT_THROW(html("no heading"), HelpError);
   EXPECT_THROW(html("# a\n\n# b"), HelpError);
-  EXPECT_THROW(html("# a\n\n![x](none.png)"), HelpError);
   EXPECT_THROW(html("# a\n\n- b\n  - c\n"), HelpError);
+}
+
+TEST_F(Builder, BuildsAPageWhosePictureIsStillMissingAndSaysSo) {
+  expect_in_body("![egy <kép>](none.png)",
+                 "<p class=\"picture\" align=\"center\">[Hiányzó kép: egy &lt;kép&gt;]</p>\n");
+  EXPECT_EQ(html("# a\n\n![x](none.png)").missing, QStringList("none.png"));
+  EXPECT_TRUE(html("# a\n\n![x](none.png)").pictures.isEmpty());
 }
 
 TEST_F(Builder, RefusesPicturesThatAreTooLarge) {

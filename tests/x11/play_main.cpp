@@ -4,12 +4,15 @@
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
 #include "feedback/frm_gratuláció.h"
-#include "tests/x11/games.h"
+#include "feedback/frm_hangbeáll.h"
+#include "tests/players/played_exercise.h"
+#include "tests/x11/heard_platform.h"
 #include "tests/x11/x_hand.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cstdio>
 #include <filesystem>
 #include <optional>
@@ -26,14 +29,31 @@ void expect(bool holds, const std::string& otherwise) {
   if (!holds) throw std::runtime_error(otherwise);
 }
 
+constexpr int mistakes = 3; // of so many tasks one is answered wrong first
+
+class ScreenEars : public Ears {
+ public:
+  ScreenEars(const HeardPlatform& platform, Session& session) : platform_(platform), session_(session) {}
+
+  int heard(TextView file) const override { return platform_.heard(file); }
+  int heard_right() const override { return platform_.heard_any(lists().lst_helyeshang.Items); }
+  int heard_wrong() const override { return platform_.heard_any(lists().Lst_hibahang.Items); }
+
+ private:
+  const frm_hangbeáll& lists() const { return session_.window<frm_hangbeáll>(); }
+
+  const HeardPlatform& platform_;
+  Session& session_;
+};
+
 /// Sits at the screen: looks, and lets the player take its next step when the one before has had its effect.
 class Person : public QObject {
  public:
-  Person(Session& session, HeardPlatform& platform, const GameEntry& entry, bool by_keyboard)
+  Person(Session& session, HeardPlatform& platform, const PlayedExercise& game, PlayMode mode)
       : session_(session),
         platform_(platform),
-        entry_(entry),
-        by_keyboard_(by_keyboard),
+        game_(game),
+        mode_(mode),
         hand_([&platform](const Element& element, Point point) { return platform.spot_of(element, point); }) {
     connect(&timer_, &QTimer::timeout, this, [this] { look(); });
     timer_.start(pace);
@@ -49,9 +69,9 @@ class Person : public QObject {
       expect(waiting_.elapsed() <= patience, "nothing goes on");
       Window* front = platform_.active_window();
       if (!hand_.idle() || front == nullptr || !front->Enabled || !platform_.settled(*front)) return;
-      if (!game_) game_ = entry_.make(session_, by_keyboard_);
+      if (!player_) player_ = game_.make(session_, mode_, game_.tasks == 1 ? 1 : mistakes);
       check_progress(*front);
-      if (next_set_begun(*front) && game_->wrong_answers() > 0) {
+      if (next_set_begun(*front) && player_->wrong_answers() > 0) {
         check_answers(*front);
         done_ = true;
         stop();
@@ -67,61 +87,62 @@ class Person : public QObject {
   }
 
   bool next_set_begun(Window& front) const {
-    return front.Name == game_->window && game_->sets() > 0 && game_->gathered(front) > 0;
+    return front.Name == game_.window && player_->sets() > 0 && game_.gathered(front, *player_) > 0;
   }
 
   // The player itself says how many wrong answers it has given; whether they were taken as such shows here.
   void step(Window& front) {
-    const int before = game_->wrong_answers();
-    game_->player->step(front, hand_);
-    if (Window* exercise = shown_exercise(); exercise != nullptr && game_->wrong_answers() > before)
-      gathered_before_mistake_ = game_->gathered(*exercise);
+    const int before = player_->wrong_answers();
+    player_->step(front, hand_);
+    if (Window* exercise = shown_exercise(); exercise != nullptr && player_->wrong_answers() > before)
+      gathered_before_mistake_ = game_.gathered(*exercise, *player_);
   }
 
   void check_progress(Window& front) {
     Window* exercise = shown_exercise();
     if (dynamic_cast<frm_gratuláció*>(&front) != nullptr) {
-      expect(exercise != nullptr && game_->gathered(*exercise) == game_->tasks, "the praise comes before its time");
+      expect(exercise != nullptr && game_.gathered(*exercise, *player_) == game_.tasks,
+             "the praise comes before its time");
     }
     if (&front != exercise || !gathered_before_mistake_) return;
-    expect(game_->gathered(front) == gathered_before_mistake_, "a wrong answer has changed what is solved");
+    expect(game_.gathered(front, *player_) == gathered_before_mistake_, "a wrong answer has changed what is solved");
     gathered_before_mistake_.reset();
   }
 
   // The next set has begun: all that was answered was also heard.
   void check_answers(Window& exercise) {
-    const int right = game_->sets() * game_->tasks + game_->gathered(exercise);
+    const int right = player_->sets() * game_.tasks + game_.gathered(exercise, *player_);
     expect(hand_.lost() == 0, "presses of the hand reached no window");
-    if (game_->heard_right)
-      expect(game_->heard_right(platform_) == right,
-             "right answers heard: " + of(game_->heard_right(platform_), right));
-    if (game_->heard_wrong)
-      expect(game_->heard_wrong(platform_) == game_->wrong_answers(),
-             "wrong answers heard: " + of(game_->heard_wrong(platform_), game_->wrong_answers()));
+    const ScreenEars ears(platform_, session_);
+    const auto heard = [&ears](const char* what, int (*count)(const Ears&), int given) {
+      if (count == nullptr) return;
+      expect(count(ears) == given,
+             what + std::string(" answers heard: ") + std::to_string(count(ears)) + " of " + std::to_string(given));
+    };
+    heard("right", game_.heard_right, right);
+    heard("wrong", game_.heard_wrong, player_->wrong_answers());
   }
-
-  static std::string of(int count, int all) { return std::to_string(count) + " of " + std::to_string(all); }
 
   Window* shown_exercise() const {
     for (Window* window : platform_.shown_windows()) {
-      if (window->Name == game_->window) return window;
+      if (window->Name == game_.window) return window;
     }
     return nullptr;
   }
 
   void stop() {
-    std::printf("%d sets solved, %d wrong answers, %d presses reached no window\n", game_ ? game_->sets() : 0,
-                game_ ? game_->wrong_answers() : 0, hand_.lost());
+    std::printf("%d sets solved, %d wrong answers, %d presses reached no window\n", player_ ? player_->sets() : 0,
+                player_ ? player_->wrong_answers() : 0, hand_.lost());
     timer_.stop();
     platform_.end_process();
   }
 
   Session& session_;
   HeardPlatform& platform_;
-  const GameEntry& entry_;
-  bool by_keyboard_;
+  const PlayedExercise& game_;
+  PlayMode mode_;
   XHand hand_;
-  std::optional<Game> game_;
+  std::unique_ptr<Player> player_;
   std::optional<int> gathered_before_mistake_;
   QTimer timer_;
   QElapsedTimer waiting_;
@@ -139,15 +160,15 @@ void move_in(const QTemporaryDir& home) {
   qputenv("CSERKO_USER_DIR", home.filePath("user").toUtf8());
 }
 
-int play(const GameEntry& entry, bool by_keyboard) {
+int play(const PlayedExercise& game, PlayMode mode) {
   const QTemporaryDir home;
   move_in(home);
   HeardPlatform platform;
-  entry.prepare(platform.files());
+  game.prepare(platform.files());
   Session session(platform);
   install_feedback(session);
   install_exercises(session);
-  const Person person(session, platform, entry, by_keyboard);
+  const Person person(session, platform, game, mode);
   session.Main();
   if (!person.done()) std::fprintf(stderr, "%s\n", person.trouble().c_str());
   return person.done() ? 0 : 1;
@@ -157,14 +178,16 @@ int play(const GameEntry& entry, bool by_keyboard) {
 
 int main(int argc, char** argv) {
   const QApplication application(argc, argv);
-  const GameEntry* entry = argc == 3 ? find_game(argv[1]) : nullptr;
+  const std::string_view name = argc == 3 ? argv[1] : "";
   const std::string_view way = argc == 3 ? argv[2] : "";
-  if (entry == nullptr || (way != "mouse" && way != "keyboard")) {
+  const std::vector<PlayedExercise> all = played_exercises();
+  const auto game = std::find_if(all.begin(), all.end(), [&](const PlayedExercise& any) { return any.name == name; });
+  if (game == all.end() || (way != "mouse" && way != "keyboard")) {
     std::fputs("usage: cserko-x11-play EXERCISE mouse|keyboard\n", stderr);
     return 2;
   }
   try {
-    return play(*entry, way == "keyboard");
+    return play(*game, way == "keyboard" ? PlayMode::Keyboard : PlayMode::Mouse);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "%s\n", error.what());
     return 1;

@@ -1,11 +1,10 @@
-#include "tests/tour/scrambled_word_stops.h"
-
 #include "core/codepage.h"
 #include "core/kszöveg.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "feedback/frm_gratuláció.h"
 #include "feedback/message_panels.h"
 #include "platform/input.h"
+#include "tests/tour/exercise_stops.h"
 
 #include <algorithm>
 #include <map>
@@ -68,9 +67,9 @@ template<class Better> int record_by_length(const Session& session, const frm_cs
 }
 
 // The deeds of the stops keep a copy of this, as it is gone when they happen.
-class Stops {
+class ScrambledWordStops {
  public:
-  Stops(Guide& guide, Session& session, WatchedPlatform& platform)
+  ScrambledWordStops(Guide& guide, Session& session, WatchedPlatform& platform)
       : guide_(guide), session_(session), platform_(platform) {}
 
   void all() const {
@@ -218,11 +217,16 @@ class Stops {
   WatchedPlatform& platform_;
 };
 
-} // namespace
-
-void lay_out_scrambled_word(Guide& guide, Session& session, WatchedPlatform& platform) {
+void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.intended.push_back({exercise, u"lbl_megoldás", u"kép"}); // by one pixel of the design
-  Stops(guide, session, platform).all();
+  guide.for_help("scrambled-word", "scrambled_word");
+  guide.for_help("scrambled-word-settings", "scrambled_word_settings");
+  guide.for_help("congratulation-with-count", "congratulation", 422);
+  ScrambledWordStops(guide, session, platform).all();
 }
+
+const Stops stops{exercise, lay_out};
+
+} // namespace
 
 } // namespace cserko::tour

@@ -1,5 +1,3 @@
-#include "tests/tour/letter_sorting_stops.h"
-
 #include "exercises/shared/frm_irányválasztó.h"
 #include "feedback/message_panels.h"
 #include "tests/players/betűválogatás_player.h"
@@ -100,13 +98,13 @@ void directions(const SortingVisit& visit) {
   visit.look("-syllables");
 }
 
-} // namespace
-
-void lay_out_letter_sorting(Guide& guide, Session& session, WatchedPlatform& platform) {
+void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const SortingVisit visit(guide, session, platform, u"frm_betűválogatás", "letter-sorting");
   guide.intended.push_back({u"frm_betűválogatás", u"kép", u"eredménykép"}); // on its flight
   guide.intended.push_back({u"frm_betűválogatás", u"kép", u"eredményképnév"});
   guide.intended.push_back({u"frm_betűválogatás", u"kép", u"betű"});
+  guide.for_help("letter-sorting-three-results", "letter_sorting");
+  guide.for_help("direction-panel", "direction_panel", 422);
   visit.open();
   visit.look_at_focus(1);
   visit.err();
@@ -119,5 +117,9 @@ void lay_out_letter_sorting(Guide& guide, Session& session, WatchedPlatform& pla
   visit.solve_all();
   visit.close();
 }
+
+const Stops stops{u"frm_betűválogatás", lay_out};
+
+} // namespace
 
 } // namespace cserko::tour
