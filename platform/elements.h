@@ -115,13 +115,19 @@ inline constexpr int down = 40;
 inline constexpr int insert = 45;
 inline constexpr int delete_ = 46;
 inline constexpr int f1 = 112;
+inline constexpr int comma = 188;
+inline constexpr int minus = 189;
+inline constexpr int period = 190;
 } // namespace key
 
-/// A key going down or up. A handler that sets `code` to 0 keeps the key from everybody after it.
+/// A key going down or up. Letters, digits and the keys that have a name have a code, that of the key whatever it types
+/// with Shift; a sign of another key has the code 0, goes into a text and reaches no handler. A handler that sets
+/// `code` to 0 keeps the key from everybody after it.
 struct KeyEvent {
   int code = 0;
   int shift = shift::none;
   char16_t character = 0; ///< What the key types, 0 if nothing.
+  bool repeated = false;  ///< The key is held down and repeats itself.
 };
 
 enum class ElementKind : std::uint8_t {
@@ -195,9 +201,11 @@ class Element {
   Text AccessibleName; ///< Overrides what `accessible_name` makes of the caption.
   bool Visible = true;
   bool Enabled = true;
-  bool TabStop = true; ///< Counts only for kinds that take the focus.
-  bool Border = false; ///< A thin line around a label, picture box or frame.
-  bool Opaque = false; ///< Labels are transparent unless this is set.
+  bool TabStop = true;   ///< Counts only for kinds that take the focus.
+  int TabIndex = 0;      ///< The Tab key goes by this number, and among equals in order of creation.
+  bool Selected = false; ///< Chosen for what comes next, as a letter that the arrows move: told to screen readers.
+  bool Border = false;   ///< A thin line around a label, picture box or frame.
+  bool Opaque = false;   ///< Labels are transparent unless this is set.
   Color BackColor = white;
   Color ForeColor{59, 36, 20};
   cserko::Font Font;

@@ -106,6 +106,7 @@ bool press_default(Window& window, const KeyEvent& event, const Element* focused
     button = first<Button>(window, ElementKind::Button, [](const Button& b) { return b.Cancel; });
   }
   if (button == nullptr) return false;
+  if (event.repeated) return true;
   // The button is to find in the box what leaving it would have made of it.
   if (event.code == key::enter && focused != nullptr && focused->kind() == ElementKind::TextBox) {
     if (UpDown* stepper = static_cast<const TextBox*>(focused)->Stepper) stepper->finish_typing();
@@ -208,8 +209,16 @@ bool key_among_several(ListBox& list, const KeyEvent& event) {
   return true;
 }
 
+bool presses(const Element& element, const KeyEvent& event) {
+  const ElementKind kind = element.kind();
+  if (kind == ElementKind::TextBox || kind == ElementKind::UpDown || kind == ElementKind::ScrollBar) return false;
+  return event.code == key::space || event.code == key::enter;
+}
+
 // What the focused control does with a key by itself. Returns whether it has used it.
 bool control_key(Element& element, const KeyEvent& event) {
+  // A key that is held down presses once.
+  if (event.repeated && presses(element, event)) return true;
   switch (element.kind()) {
   case ElementKind::Label:
   case ElementKind::PictureBox:
@@ -241,7 +250,16 @@ bool control_key(Element& element, const KeyEvent& event) {
   }
 }
 
+// Space and Enter in a window that has just come up, or that somebody hammers on.
+bool comes_too_early(Window& window, const KeyEvent& event) {
+  if (window.KeyPause == 0 || (event.code != key::space && event.code != key::enter)) return false;
+  if (!event.repeated && window.platform().now() >= window.keys_heard_from()) return false;
+  window.put_off_keys();
+  return true;
+}
+
 bool key_down_in_event(Window& window, KeyEvent& event) {
+  if (comes_too_early(window, event)) return false;
   if (choose_by_shortcut(window, event)) return false;
   if (window.KeyPreview) window.KeyDown(event);
   if (event.code == 0 || !window.visible()) return false;
@@ -329,6 +347,8 @@ void mouse_up(Window& window, const MouseEvent& event) {
 }
 
 bool key_down(Window& window, KeyEvent event) {
+  // Signs of keys without a code are text alone.
+  if (event.code == 0) return window.Enabled;
   bool machine_follows = false;
   run(window, [&] {
     if (window.Enabled) machine_follows = key_down_in_event(window, event);
@@ -337,6 +357,7 @@ bool key_down(Window& window, KeyEvent event) {
 }
 
 void key_up(Window& window, KeyEvent event) {
+  if (event.code == 0) return;
   run(window, [&] {
     if (window.Enabled) window.KeyUp(event);
   });
@@ -399,16 +420,19 @@ Element* next_focus(const Window& window, bool backwards) {
     if (!off_option) stops.push_back(element);
   }
   if (stops.empty()) return nullptr;
-  // What has the focus may be no stop itself: serial numbers tell its place among them.
+  const auto comes_before = [](const Element* a, const Element* b) {
+    return std::pair(a->TabIndex, a->serial()) < std::pair(b->TabIndex, b->serial());
+  };
+  std::sort(stops.begin(), stops.end(), comes_before);
+  // What has the focus may be no stop itself: its place among them counts.
   const Element* focus = window.focus();
   if (backwards) {
-    const auto before = std::find_if(stops.rbegin(), stops.rend(), [&](const Element* e) {
-      return focus != nullptr && e->serial() < focus->serial();
-    });
+    const auto before = std::find_if(stops.rbegin(), stops.rend(),
+                                     [&](const Element* e) { return focus != nullptr && comes_before(e, focus); });
     return before == stops.rend() ? stops.back() : *before;
   }
   const auto behind = std::find_if(stops.begin(), stops.end(),
-                                   [&](const Element* e) { return focus == nullptr || e->serial() > focus->serial(); });
+                                   [&](const Element* e) { return focus == nullptr || comes_before(focus, e); });
   return behind == stops.end() ? stops.front() : *behind;
 }
 

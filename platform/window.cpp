@@ -63,6 +63,13 @@ void Window::set_focus(Element* element) {
   if (focus_ == element && element != nullptr && element->GotFocus) element->GotFocus();
 }
 
+void Window::set_visible(bool visible) {
+  if (visible && !visible_) put_off_keys();
+  visible_ = visible;
+}
+
+void Window::put_off_keys() { last_unheard_ = platform_.now(); }
+
 void Window::register_element(Element& element) { elements_.push_back(&element); }
 
 void Window::unregister_element(Element& element) {

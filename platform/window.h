@@ -31,6 +31,9 @@ class Window {
   double Height = 0; ///< With title bar and menu bar, twips.
   bool Enabled = true;
   bool KeyPreview = false; ///< The window's key handlers see keys before the focused element does.
+  /// Space and Enter press nothing here before the window has been in view, and both keys have been let be, for so long
+  /// (ms): who hammers on them does not close a message unread.
+  int KeyPause = 0;
   WindowBorder Border = WindowBorder::Fixed;
   MousePointer Pointer = MousePointer::Arrow;
   Color BackColor = white;
@@ -82,7 +85,11 @@ class Window {
   void unregister_element(Element& element);
   /// Takes an element out of the window but keeps it alive until no event of the window is running.
   void retire(std::unique_ptr<Element> element);
-  void set_visible(bool visible) { visible_ = visible; }
+  void set_visible(bool visible);
+  /// When Space and Enter are heard, on the machine's clock; see `KeyPause`.
+  std::int64_t keys_heard_from() const { return last_unheard_ + KeyPause; }
+  /// A press of Space or Enter that came too early.
+  void put_off_keys();
   void enter_event() { ++events_running_; }
   void leave_event();
 
@@ -94,6 +101,7 @@ class Window {
   Element* focus_ = nullptr;
   std::unique_ptr<Canvas> canvas_;
   int events_running_ = 0;
+  std::int64_t last_unheard_ = 0;
   bool visible_ = false;
 };
 

@@ -63,6 +63,9 @@ bool pressed_whole(const Element& element) {
 char16_t character_of(int code, int shift) {
   constexpr int double_o = 0xD5; // of code page 1250, as its other letters
   constexpr int double_u = 0xDB;
+  if (code == key::comma) return (shift & shift::shift) != 0 ? u'?' : u',';
+  if (code == key::minus) return (shift & shift::shift) != 0 ? u'_' : u'-';
+  if (code == key::period) return (shift & shift::shift) != 0 ? u':' : u'.';
   const bool letter = (code >= 'A' && code <= 'Z') || code >= 0xC1;
   const bool digit = code >= '0' && code <= '9';
   if (!letter && !digit && code != key::space) return 0;
@@ -70,9 +73,14 @@ char16_t character_of(int code, int shift) {
   return (shift & shift::shift) != 0 ? capital : lower_case(capital);
 }
 
-// The key and shift mask that type a character.
+// The key and shift mask that type a character; the code 0 for a sign whose key has none.
 std::pair<int, int> key_of(char16_t character) {
+  if (character == u',') return {key::comma, shift::none};
+  if (character == u'-') return {key::minus, shift::none};
+  if (character == u'.') return {key::period, shift::none};
   const char16_t capital = upper_case(character);
+  const bool coded = capital != lower_case(capital) || (character >= u'0' && character <= u'9') || character == u' ';
+  if (!coded) return {0, shift::none};
   const int code = capital == u'Ő' ? 0xD5 : capital == u'Ű' ? 0xDB : capital;
   return {code, capital == character && lower_case(character) != character ? shift::shift : shift::none};
 }

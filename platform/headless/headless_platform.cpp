@@ -265,6 +265,13 @@ bool HeadlessPlatform::person_acts() {
 
 void HeadlessPlatform::wait_for_timer() {
   if (clock_ - last_deed_ > patience) fail("nobody does anything and the timers go on for ever");
+  // A person who waits until a panel hears the keys does something later.
+  const Window* front = active_window();
+  const std::int64_t heard_from = front != nullptr && front->KeyPause > 0 ? front->keys_heard_from() : clock_;
+  if (heard_from > clock_) {
+    advance(static_cast<int>(heard_from - clock_));
+    return;
+  }
   if (!fire_until(std::numeric_limits<std::int64_t>::max())) fail("nobody does anything and no timer runs");
 }
 

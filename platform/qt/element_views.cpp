@@ -1,4 +1,5 @@
 // The views of what is looked at and pressed: labels, pictures, buttons, boxes to tick, frames, lines.
+#include "platform/button_face.h"
 #include "platform/input.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/qt_canvas.h"
@@ -43,16 +44,22 @@ class ElementWidget : public QWidget {
 
   void mousePressEvent(QMouseEvent* event) override {
     if (element_.DragAutomatic) setCursor(Qt::ClosedHandCursor);
+    take_every_move(true);
     send(event, to_mouse_button(event->button()),
          [](Element& to, const MouseEvent& mouse) { input::mouse_down(to, mouse); });
   }
-  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    take_every_move(true);
+    send(event, to_mouse_button(event->button()),
+         [](Element& to, const MouseEvent& mouse) { input::double_click(to, mouse); });
+  }
   void mouseMoveEvent(QMouseEvent* event) override {
     send(event, held_button(event->buttons()),
          [](Element& to, const MouseEvent& mouse) { input::mouse_move(to, mouse); });
   }
   void mouseReleaseEvent(QMouseEvent* event) override {
     unsetCursor();
+    take_every_move(event->buttons() != Qt::NoButton);
     send(event, to_mouse_button(event->button()),
          [](Element& to, const MouseEvent& mouse) { input::mouse_up(to, mouse); });
   }
@@ -148,6 +155,15 @@ class LabelView : public View {
   bool centered_ = true;
 };
 
+// A picture in the middle of a place, as large as it goes.
+void paint_picture(QPainter& painter, const Picture& picture, const QRectF& place, double ratio) {
+  const QImage image = static_cast<const QtPicture&>(picture).image((place.size() * ratio).toSize());
+  if (image.isNull()) return;
+  QRectF whole(QPointF(), QSizeF(image.size()) / ratio);
+  whole.moveCenter(place.center());
+  painter.drawImage(whole.topLeft().toPoint(), image);
+}
+
 class PictureWidget : public ElementWidget {
  public:
   PictureWidget(QWidget* parent, PictureBox& box, ViewContext& context)
@@ -157,7 +173,7 @@ class PictureWidget : public ElementWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     if (box_.Opaque) painter.fillRect(rect(), to_qt(box_.BackColor));
-    if (box_.Picture) paint_picture(painter);
+    if (box_.Picture) paint_picture(painter, *box_.Picture, rect(), devicePixelRatioF());
     if (const auto* canvas = static_cast<const QtCanvas*>(box_.drawn_canvas()))
       painter.drawImage(0, 0, canvas->image());
     if (box_.Border) paint_border(painter, rect(), theme::line, context().fonts.scale());
@@ -165,15 +181,6 @@ class PictureWidget : public ElementWidget {
   }
 
  private:
-  void paint_picture(QPainter& painter) {
-    const double ratio = devicePixelRatioF();
-    const QImage image = static_cast<const QtPicture&>(*box_.Picture).image((QSizeF(size()) * ratio).toSize());
-    if (image.isNull()) return;
-    QRectF place(QPointF(), QSizeF(image.size()) / ratio);
-    place.moveCenter(QRectF(rect()).center());
-    painter.drawImage(place.topLeft().toPoint(), image);
-  }
-
   PictureBox& box_;
 };
 
@@ -232,7 +239,17 @@ class ButtonWidget : public QPushButton {
     if (button_.Picture) paint_picture(painter);
     painter.setPen(text_color(*this, button_));
     const double padding = 60 * scale;
-    paint_caption(painter, QRectF(rect()).adjusted(padding, 0, -padding, 0), button_, context_, Qt::AlignCenter, true);
+    const ButtonFace face = face_of(button_);
+    const auto place = [scale](const Rect& part) {
+      return QRectF(part.left * scale, part.top * scale, part.width * scale, part.height * scale);
+    };
+    if (button_.Picture) {
+      painter.setOpacity(isEnabled() ? 1 : 0.4);
+      paint_picture(painter, *button_.Picture, place(face.picture), devicePixelRatioF());
+      painter.setOpacity(1);
+    }
+    paint_caption(painter, place(face.caption).adjusted(padding, 0, -padding, 0), button_, context_, Qt::AlignCenter,
+                  true);
     if (shows_focus(*this, context_)) paint_focus_ring(painter, QRectF(rect()).adjusted(1, 1, -1, -1), scale);
   }
 

@@ -1,5 +1,6 @@
 // The views of controls that the user types, steps or chooses in.
 #include "platform/input.h"
+#include "platform/qt/keys.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/theme.h"
 #include "platform/qt/view.h"
@@ -7,6 +8,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -18,10 +20,35 @@ namespace cserko {
 
 namespace {
 
+/// A press that gives the box the focus keeps what its `GotFocus` has selected.
+class LineNative : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+  void select_whole() {
+    selectAll();
+    selected_by_suite_ = true;
+  }
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override {
+    const bool keep = std::exchange(selected_by_suite_, false);
+    QLineEdit::mousePressEvent(event);
+    if (keep) selectAll();
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    selected_by_suite_ = false;
+    QLineEdit::keyPressEvent(event);
+  }
+
+ private:
+  bool selected_by_suite_ = false;
+};
+
 class LineEditView : public View {
  public:
   LineEditView(TextBox& box, ViewContext& context, QWidget* parent)
-      : View(box, context, new QLineEdit(parent)), box_(box), edit_(static_cast<QLineEdit&>(widget())) {
+      : View(box, context, new LineNative(parent)), box_(box), edit_(static_cast<LineNative&>(widget())) {
     edit_.setFocusPolicy(Qt::ClickFocus);
     QObject::connect(&edit_, &QLineEdit::textEdited, &edit_, [this](const QString& text) {
       this->context().act([&box = box_, typed = from_qt(text)] { input::type(box, typed); });
@@ -33,16 +60,20 @@ class LineEditView : public View {
  protected:
   bool sync_content() override {
     const QString text = to_qt(box_.text());
-    if (edit_.text() == text && edit_.isReadOnly() == box_.Locked) return false;
+    const bool select = selections_ != box_.selections();
+    selections_ = box_.selections();
+    if (edit_.text() == text && edit_.isReadOnly() == box_.Locked && !select) return false;
     if (edit_.text() != text) edit_.setText(text);
     edit_.setReadOnly(box_.Locked);
     if (box_.MaxLength > 0) edit_.setMaxLength(box_.MaxLength);
+    if (select) edit_.select_whole();
     return true;
   }
 
  private:
   TextBox& box_;
-  QLineEdit& edit_;
+  LineNative& edit_;
+  int selections_ = 0;
 };
 
 class TextEditView : public View {
@@ -70,12 +101,14 @@ class TextEditView : public View {
   QPlainTextEdit& edit_;
 };
 
-/// Two small buttons, one over the other.
+/// Two small buttons, one over the other. Where there is no text box for the keys, it takes the focus itself.
 class UpDownWidget : public QWidget {
  public:
-  UpDownWidget(QWidget* parent, UpDown& updown, ViewContext& context) : QWidget(parent) {
+  UpDownWidget(QWidget* parent, UpDown& updown, ViewContext& context) : QWidget(parent), context_(context) {
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    const int ring = updown.focusable() ? ring_width : 0;
+    if (updown.focusable()) setFocusPolicy(Qt::ClickFocus);
+    layout->setContentsMargins(ring, ring, ring, ring);
     layout->setSpacing(0);
     for (const int direction : {1, -1}) {
       auto* button = new QToolButton(this);
@@ -90,40 +123,78 @@ class UpDownWidget : public QWidget {
       layout->addWidget(button);
     }
   }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (!context_.keyboard_used || !hasFocus()) return;
+    QPainter painter(this);
+    paint_focus_ring(painter, rect(), context_.fonts.scale());
+  }
+  void focusInEvent(QFocusEvent*) override { update(); }
+  void focusOutEvent(QFocusEvent*) override { update(); }
+
+ private:
+  static constexpr int ring_width = 3;
+
+  ViewContext& context_;
 };
 
-/// Getting the focus selects nothing: only the user chooses.
+/// Getting the focus selects nothing: only the user chooses. An entry is chosen where it is pressed and let go, so that
+/// a finger can scroll the list; what is selected then is told by the element.
 class ListNative : public QListWidget {
  public:
   using QListWidget::QListWidget;
+
+  std::function<void(int row, Qt::KeyboardModifiers)> chosen;
 
  protected:
   void focusInEvent(QFocusEvent* event) override {
     const QSignalBlocker quiet(this);
     const int row = currentRow();
     QListWidget::focusInEvent(event);
-    setCurrentRow(row);
+    setCurrentRow(row, QItemSelectionModel::NoUpdate);
   }
+  void mousePressEvent(QMouseEvent* event) override {
+    pressed_ = event->button() == Qt::LeftButton ? row_at(event) : -1;
+    event->accept();
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  void mouseMoveEvent(QMouseEvent* event) override { event->accept(); }
+  void mouseReleaseEvent(QMouseEvent* event) override {
+    event->accept();
+    const int pressed = std::exchange(pressed_, -1);
+    if (pressed >= 0 && event->button() == Qt::LeftButton && row_at(event) == pressed)
+      chosen(pressed, event->modifiers());
+  }
+
+ private:
+  int row_at(const QMouseEvent* event) const {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    return index.isValid() ? index.row() : -1;
+  }
+
+  int pressed_ = -1;
 };
 
 class ListView : public View {
  public:
   ListView(ListBox& list, ViewContext& context, QWidget* parent)
-      : View(list, context, new ListNative(parent)), list_(list), native_(static_cast<QListWidget&>(widget())) {
+      : View(list, context, new ListNative(parent)), list_(list), native_(static_cast<ListNative&>(widget())) {
     native_.setFocusPolicy(Qt::ClickFocus);
     native_.setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     native_.setTextElideMode(Qt::ElideMiddle);
-    QObject::connect(&native_, &QListWidget::currentRowChanged, &native_, [this](int row) { choose(row); });
-    // A click on the entry that is selected already chooses it again.
-    QObject::connect(&native_, &QListWidget::itemClicked, &native_, [this](QListWidgetItem* item) {
-      if (!std::exchange(just_chosen_, false)) choose(native_.row(item));
-      just_chosen_ = false;
-    });
+    native_.setEditTriggers(QAbstractItemView::NoEditTriggers);
+    if (list.MultiSelect) native_.setSelectionMode(QAbstractItemView::MultiSelection);
+    native_.chosen = [this](int row, Qt::KeyboardModifiers held) {
+      this->context().act([&list = list_, row, shift = to_shift_mask(held)] { input::select(list, row, shift); });
+    };
+    // Keys that the native list works with itself: the arrows of a list of one selection, and the first letters.
+    QObject::connect(&native_, &QListWidget::currentRowChanged, &native_, [this](int row) { moved_by_key(row); });
   }
 
  protected:
   bool sync_content() override {
-    if (items_ == list_.Items && row_ == list_.list_index()) return false;
+    if (items_ == list_.Items && row_ == list_.list_index() && several_ == wanted_selection()) return false;
     const QSignalBlocker quiet(native_);
     if (items_ != list_.Items) {
       items_ = list_.Items;
@@ -131,23 +202,33 @@ class ListView : public View {
       for (const Text& item : items_) native_.addItem(to_qt(item));
     }
     row_ = list_.list_index();
-    native_.setCurrentRow(row_);
+    several_ = wanted_selection();
+    native_.setCurrentRow(row_,
+                          list_.MultiSelect ? QItemSelectionModel::NoUpdate : QItemSelectionModel::ClearAndSelect);
+    for (std::size_t i = 0; i < several_.size(); ++i) native_.item(static_cast<int>(i))->setSelected(several_[i]);
     return true;
   }
 
  private:
-  void choose(int row) {
+  std::vector<bool> wanted_selection() const { return list_.MultiSelect ? list_.selection() : std::vector<bool>(); }
+
+  void moved_by_key(int row) {
     if (row < 0) return;
-    just_chosen_ = true;
     row_ = row;
-    context().act([&list = list_, row] { input::select(list, row); });
+    context().act([&list = list_, row] {
+      if (list.MultiSelect) {
+        list.set_list_index(row);
+      } else {
+        input::select(list, row);
+      }
+    });
   }
 
   ListBox& list_;
-  QListWidget& native_;
+  ListNative& native_;
   std::vector<Text> items_;
+  std::vector<bool> several_;
   int row_ = -1;
-  bool just_chosen_ = false;
 };
 
 /// Keys to the right and down go up in value. Qt's own treatment turns the arrows of a lying bar round.

@@ -30,22 +30,41 @@ constexpr std::array<std::pair<int, int>, 23> named_keys{{
     {Qt::Key_Down, key::down},
     {Qt::Key_Insert, key::insert},
     {Qt::Key_Delete, key::delete_},
-    {Qt::Key_Comma, 188},
-    {Qt::Key_Period, 190},
-    {Qt::Key_Minus, 189},
+    {Qt::Key_Comma, key::comma},
+    {Qt::Key_Period, key::period},
+    {Qt::Key_Minus, key::minus},
 }};
 
-// The capitals of the Hungarian letters that have a code of their own in code page 1250, where it is not the Unicode
-// one.
+// The accented capitals of code page 1250 that Unicode has at the same place.
+constexpr std::u16string_view accented_capitals = u"ÁÂÄÇÉËÍÎÓÔÖÚÜÝ";
+
+// The code of a letter, in code page 1250; 0 for what is none.
 int letter_code(char16_t capital) {
-  switch (capital) {
-  case u'Ő':
-    return 213;
-  case u'Ű':
-    return 219;
-  default:
-    return capital < 256 ? capital : 0;
-  }
+  if (capital >= u'A' && capital <= u'Z') return capital;
+  if (capital == u'Ő') return 213;
+  if (capital == u'Ű') return 219;
+  return accented_capitals.find(capital) != std::u16string_view::npos ? capital : 0;
+}
+
+// With Shift a key types a sign of its own, which says little about the key: "%" is on the 5 here and elsewhere not.
+// Where the key lies says it: the digits, comma and period have the same place on the keyboards of all countries that
+// write from left to right. Scan codes as of the window system, which counts from 8 on.
+int code_of_place(const QKeyEvent& event) {
+#ifdef Q_OS_WIN
+  constexpr quint32 first = 0;
+#else
+  constexpr quint32 first = 8;
+#endif
+  if (event.key() == Qt::Key_Underscore) return key::minus;
+  if (event.key() == Qt::Key_section) return '0'; // the 0 to the left of the 1
+  if (event.nativeScanCode() < first) return 0;
+  const quint32 place = event.nativeScanCode() - first;
+  constexpr quint32 one = 2;
+  constexpr quint32 nine = 10;
+  if (place >= one && place <= nine) return '1' + static_cast<int>(place - one);
+  if (place == 11) return '0';
+  if (place == 51) return key::comma;
+  return place == 52 ? key::period : 0;
 }
 
 int code_of(const QKeyEvent& event) {
@@ -54,8 +73,10 @@ int code_of(const QKeyEvent& event) {
     if (qt == key) return code;
   }
   if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return key::f1 + key - Qt::Key_F1;
-  if (key > 0x20 && key < 0x1000) return letter_code(upper_case(static_cast<char16_t>(key)));
-  return 0;
+  if (key >= Qt::Key_0 && key <= Qt::Key_9) return key;
+  if (key <= 0x20 || key >= 0x1000) return 0;
+  if (const int letter = letter_code(upper_case(static_cast<char16_t>(key))); letter != 0) return letter;
+  return event.modifiers().testFlag(Qt::ShiftModifier) ? code_of_place(event) : 0;
 }
 
 } // namespace
@@ -72,6 +93,7 @@ KeyEvent to_key_event(const QKeyEvent& event) {
   KeyEvent result;
   result.code = code_of(event);
   result.shift = to_shift_mask(event.modifiers());
+  result.repeated = event.isAutoRepeat();
   // A modifier that goes down is not yet one that is held.
   if (result.code == key::shift) result.shift &= ~shift::shift;
   if (result.code == key::control) result.shift &= ~shift::control;

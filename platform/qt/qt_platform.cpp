@@ -2,6 +2,7 @@
 
 #include "platform/bitmap.h"
 #include "platform/input.h"
+#include "platform/qt/accessible.h"
 #include "platform/qt/keys.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_images.h"
@@ -159,7 +160,7 @@ void QtPlatform::sync_timers() {
   std::erase_if(timers_, [&](const auto& entry) { return running.count(entry.first) == 0; });
   for (const auto& [serial, timer] : running) {
     RunningTimer& entry = timers_[serial];
-    if (entry.timer && entry.period == timer->period()) continue;
+    if (entry.timer && entry.period == timer->period() && entry.restarts == timer->restarts()) continue;
     if (!entry.timer) {
       entry.timer.reset(new QTimer);
       entry.timer->setTimerType(Qt::PreciseTimer);
@@ -167,6 +168,7 @@ void QtPlatform::sync_timers() {
       connect(entry.timer.get(), &QTimer::timeout, this, [this, timer = timer] { tick(*timer); });
     }
     entry.period = timer->period();
+    entry.restarts = timer->restarts();
     entry.timer->start(entry.period);
   }
 }
@@ -340,6 +342,7 @@ void QtPlatform::open_view(Window& window, bool modal) {
   stack_.push_back(&window);
   first_focus(window);
   view->sync();
+  accessible::set_window_role(*view, modal && window.Border != WindowBorder::None);
   view->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   if (before != nullptr && before != &window && view_of(*before) != nullptr) {
     view->winId();

@@ -100,6 +100,7 @@ class QtPlatform : public QObject, public Platform {
     std::unique_ptr<QTimer, DeleteLater> timer;
     Timer* model = nullptr;
     int period = 0;
+    int restarts = 0;
   };
   /// An event loop that runs until its condition holds, which is looked at after every deed.
   struct RunningLoop {

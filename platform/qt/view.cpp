@@ -4,6 +4,7 @@
 #include "platform/qt/qt_text.h"
 #include "platform/qt/theme.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
@@ -21,12 +22,17 @@ QRect ViewContext::to_pixels(const Rect& place) const {
 }
 
 View::View(Element& element, ViewContext& context, QWidget* widget)
-    : element_(element), context_(context), widget_(widget) {
+    : element_(element), context_(context), widget_(widget), shown_layer_(element.serial()) {
   widget_->hide();
   accessible::set_role(*widget_, element.kind());
 }
 
 View::~View() { delete widget_.data(); }
+
+void View::raise() {
+  shown_layer_ = element_.layer();
+  widget_->raise();
+}
 
 bool View::same_look() const {
   const Element& e = element_;
@@ -34,7 +40,7 @@ bool View::same_look() const {
          shown_.place == Rect{e.Left, e.Top, e.Width, e.Height} && shown_.caption == e.Caption &&
          shown_.font == e.Font && shown_.back == e.BackColor && shown_.fore == e.ForeColor &&
          shown_.border == e.Border && shown_.opaque == e.Opaque && shown_.tool_tip == e.ToolTipText &&
-         shown_.accessible_name == e.AccessibleName;
+         shown_.accessible_name == e.AccessibleName && shown_.selected == e.Selected;
 }
 
 void View::take_look() {
@@ -49,7 +55,8 @@ void View::take_look() {
             e.Visible,
             e.Enabled,
             e.Border,
-            e.Opaque};
+            e.Opaque,
+            e.Selected};
 }
 
 void View::apply_place() { widget_->setGeometry(widget_place(shown_.place)); }
@@ -66,6 +73,7 @@ bool View::sync() {
   const QString name = to_qt(accessible_name(element_));
   widget_->setAccessibleName(name);
   if (&focus_widget() != widget_) focus_widget().setAccessibleName(name);
+  accessible::set_selected(*widget_, shown_.selected);
   look_changed();
   widget_->setVisible(shown_.visible);
   return true;
@@ -84,6 +92,8 @@ void paint_caption(QPainter& painter, const QRectF& place, const Element& elemen
   if (element.kind() != ElementKind::Label) flags |= context.alt_held ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
   painter.drawText(place, flags | Qt::TextDontClip, lines_to_qt(element.Caption));
 }
+
+void take_every_move(bool held) { QCoreApplication::setAttribute(Qt::AA_CompressHighFrequencyEvents, !held); }
 
 void paint_border(QPainter& painter, const QRect& place, const QColor& color, double scale) {
   const int width = std::max(1, static_cast<int>(twips_per_pixel * scale));

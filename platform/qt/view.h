@@ -36,6 +36,11 @@ class View {
   /// What lies inside the element is shown inside this widget.
   virtual QWidget& inner_widget() const { return *widget_; }
 
+  /// The element's layer as it was when the view was last laid in its place among the others.
+  std::uint64_t shown_layer() const { return shown_layer_; }
+  /// Lays the widget before all others of its container.
+  void raise();
+
   /// Compares the element with what was last shown and applies the differences. Returns whether there were any.
   bool sync();
 
@@ -62,6 +67,7 @@ class View {
     bool enabled = true;
     bool border = false;
     bool opaque = false;
+    bool selected = false;
   };
   bool same_look() const;
   void take_look();
@@ -71,6 +77,7 @@ class View {
   ViewContext& context_;
   QPointer<QWidget> widget_; ///< Dies with the widget around it, if that goes first.
   Look shown_;
+  std::uint64_t shown_layer_;
   bool first_ = true;
 };
 
@@ -83,6 +90,10 @@ std::unique_ptr<View> make_input_view(Element& element, ViewContext& context, QW
 /// Flags and text for painting a caption, wrapped or not.
 void paint_caption(QPainter& painter, const QRectF& place, const Element& element, const ViewContext& context,
                    int alignment, bool wrapped);
+
+/// While a button is held every point of the mouse's way arrives, so that what is drawn freehand has no corners; else
+/// the window system may leave out those that the program is too slow for.
+void take_every_move(bool held);
 
 /// A line around a place, inside it, as thick as the screen is large.
 void paint_border(QPainter& painter, const QRect& place, const QColor& color, double scale);

@@ -14,8 +14,16 @@
 #include <QScreen>
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <utility>
 
 namespace cserko {
+
+namespace {
+
+constexpr int settle_ms = 250; // what a window manager takes at most to do as it is told
+
+} // namespace
 
 /// What is inside the frame: the background, the window's own drawing, and the elements.
 class ClientArea : public QWidget {
@@ -48,12 +56,14 @@ class ClientArea : public QWidget {
   }
 
   void mousePressEvent(QMouseEvent* event) override {
+    take_every_move(true);
     send(event, to_mouse_button(event->button()), [](Window& to, const MouseEvent& e) { input::mouse_down(to, e); });
   }
   void mouseMoveEvent(QMouseEvent* event) override {
     send(event, held_button(event->buttons()), [](Window& to, const MouseEvent& e) { input::mouse_move(to, e); });
   }
   void mouseReleaseEvent(QMouseEvent* event) override {
+    take_every_move(event->buttons() != Qt::NoButton);
     send(event, to_mouse_button(event->button()), [](Window& to, const MouseEvent& e) { input::mouse_up(to, e); });
   }
 
@@ -98,6 +108,9 @@ WindowView::WindowView(Window& window, ViewContext& context)
     QFont font = context.fonts.font({u"Times New Roman", 11, false});
     menu_bar_->setFont(font);
   }
+  settling_.setSingleShot(true);
+  settling_.setInterval(settle_ms);
+  connect(&settling_, &QTimer::timeout, this, [this] { settle(); });
 }
 
 WindowView::~WindowView() {
@@ -115,7 +128,45 @@ void WindowView::closeEvent(QCloseEvent* event) {
   context_.act([&window = window_] { input::close(window); });
 }
 
-void WindowView::resizeEvent(QResizeEvent*) { lay_out(); }
+void WindowView::showEvent(QShowEvent*) {
+  offset_known_ = false;
+  settling_.start();
+}
+
+void WindowView::moveEvent(QMoveEvent*) { take_users_place(); }
+
+void WindowView::resizeEvent(QResizeEvent*) {
+  lay_out();
+  take_users_place();
+}
+
+QPoint WindowView::corner_on_screen() const {
+  return pos() - QGuiApplication::primaryScreen()->availableGeometry().topLeft();
+}
+
+// A window manager answers late, and puts its frame around the window or the window somewhere else: none of that is the
+// user's doing, and a window that took it over would creep over the screen from one start to the next.
+void WindowView::settle() {
+  if (!isVisible()) return;
+  if (!std::exchange(offset_known_, true)) frame_offset_ = corner_on_screen() - shown_place_.topLeft();
+  take_users_place();
+}
+
+void WindowView::take_users_place() {
+  if (!settled() || !offset_known_ || isMinimized() || window_.Border == WindowBorder::None) return;
+  const bool sizable = window_.Border == WindowBorder::Sizable;
+  const QRect place(corner_on_screen() - frame_offset_, sizable ? size() : shown_place_.size());
+  if (place == shown_place_) return;
+  // The difference counts, so that what is not whole pixels stays as it is.
+  const Rect wanted{window_.Left + context_.to_twips(place.left() - shown_place_.left()),
+                    window_.Top + context_.to_twips(place.top() - shown_place_.top()),
+                    window_.Width + context_.to_twips(place.width() - shown_place_.width()),
+                    window_.Height + context_.to_twips(place.height() - shown_place_.height())};
+  context_.act([this, place, wanted] {
+    shown_place_ = place;
+    input::place(window_, wanted);
+  });
+}
 
 void WindowView::lay_out() {
   const int menu = menu_bar_ != nullptr ? menu_height(context_.fonts) : 0;
@@ -141,6 +192,7 @@ bool WindowView::sync_window() {
   if (same) return false;
   if (place != shown_place_) {
     shown_place_ = place;
+    settling_.start();
     move(place.topLeft() + QGuiApplication::primaryScreen()->availableGeometry().topLeft());
     if (window_.Border == WindowBorder::Fixed) {
       setFixedSize(place.size());
@@ -203,7 +255,23 @@ bool WindowView::sync_views() {
     const auto view = views_.find(element->serial());
     if (view != views_.end() && view->second->sync()) changed = true;
   }
-  return changed;
+  return sync_stacking() || changed;
+}
+
+// A widget comes up before all others: from the lowest element that has come to the front since, each in its turn.
+bool WindowView::sync_stacking() {
+  std::uint64_t lowest = std::numeric_limits<std::uint64_t>::max();
+  for (const auto& [serial, view] : views_) {
+    if (view->shown_layer() != view->element().layer()) lowest = std::min(lowest, view->element().layer());
+  }
+  std::vector<View*> above;
+  for (const auto& [serial, view] : views_) {
+    if (view->element().layer() >= lowest) above.push_back(view.get());
+  }
+  std::sort(above.begin(), above.end(),
+            [](const View* a, const View* b) { return a->element().layer() < b->element().layer(); });
+  for (View* view : above) view->raise();
+  return !above.empty();
 }
 
 void WindowView::add_menu_entry(MenuItem& item) {

@@ -6,6 +6,7 @@
 
 #include <QAction>
 #include <QMenuBar>
+#include <QTimer>
 #include <QWidget>
 #include <unordered_map>
 
@@ -29,6 +30,8 @@ class WindowView : public QWidget {
   QWidget* widget_of(const Element& element) const;
   /// The element that a widget, or what it lies in, shows; null for none.
   Element* element_of(const QWidget* widget) const;
+  /// Whether the window system has done what the suite wanted last: from then on a move or another size is the user's.
+  bool settled() const { return isVisible() && !settling_.isActive(); }
 
   /// Height of a menu bar, and what title bar and frame of the system are taken to add, device-independent pixels.
   static int menu_height(const Fonts& fonts);
@@ -36,6 +39,8 @@ class WindowView : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
@@ -46,8 +51,12 @@ class WindowView : public QWidget {
   };
 
   void lay_out();
+  void settle();
+  void take_users_place();
+  QPoint corner_on_screen() const;
   bool sync_window();
   bool sync_views();
+  bool sync_stacking();
   bool sync_menu();
   void add_views();
   void drop_dead_views();
@@ -62,6 +71,9 @@ class WindowView : public QWidget {
   std::unordered_map<std::uint64_t, Entry> menu_;
   std::vector<std::uint64_t> shown_elements_; ///< Serial numbers, in order of creation.
   QRect shown_place_;
+  QTimer settling_;
+  QPoint frame_offset_; ///< What the window system adds to the place that it is asked for.
+  bool offset_known_ = false;
   Text shown_caption_;
   MousePointer shown_pointer_ = MousePointer::Arrow;
 };

@@ -400,6 +400,131 @@ TEST_F(Stepper, ASelectedTextIsReplacedByWhatIsTyped) {
   EXPECT_EQ(buddy.text(), u"");
 }
 
+// Keys and what they type.
+
+TEST_F(Keys, SignsOfNoCodeAreTypedAndReachNoHandler) {
+  window.KeyPreview = true;
+  show();
+  input::focus(text);
+  hand::type(window, u"50% & 'igen' (nem)!");
+  EXPECT_EQ(text.text(), u"50% & 'igen' (nem)!");
+  for (const int code : {int{'%'}, int{'&'}, int{'\''}, int{'('}, int{')'}, int{'!'}, 0})
+    EXPECT_EQ(std::count(log.begin(), log.end(), "window KeyDown " + std::to_string(code)), 0) << code;
+  EXPECT_EQ(window.focus(), &text);
+}
+
+TEST_F(Keys, CommaPeriodAndMinusHaveCodesAndTypeTheirSigns) {
+  show();
+  input::focus(text);
+  hand::type(window, u",-.");
+  EXPECT_EQ(text.text(), u",-.");
+  EXPECT_EQ(log, (Log{"window KeyDown 188", "window KeyUp 188", "window KeyDown 189", "window KeyUp 189",
+                      "window KeyDown 190", "window KeyUp 190"}));
+}
+
+TEST_F(Keys, TheTabKeyGoesByTheIndexFirst) {
+  Button help(window, u"cmd_súgó", {0, 2000, 900, 300}, u"Súgó");
+  Button last(window, u"cmd", {0, 2400, 900, 300}, u"x");
+  help.TabIndex = 1;
+  show();
+  input::focus(last);
+  hand::key(window, key::tab);
+  EXPECT_EQ(window.focus(), &help);
+  hand::key(window, key::tab);
+  EXPECT_EQ(window.focus(), &text);
+  hand::key(window, key::tab, shift::shift);
+  EXPECT_EQ(window.focus(), &help);
+}
+
+TEST_F(Keys, AKeyThatIsHeldDownPressesOnce) {
+  int clicks = 0;
+  button.Click = [&] { ++clicks; };
+  show();
+  input::focus(button);
+  for (const int code : {key::space, key::enter}) {
+    input::key_down(window, {.code = code});
+    for (int i = 0; i < 5; ++i) input::key_down(window, {.code = code, .repeated = true});
+  }
+  EXPECT_EQ(clicks, 2);
+  button.Default = true;
+  input::focus(text);
+  input::key_down(window, {.code = key::enter, .repeated = true});
+  EXPECT_EQ(clicks, 2);
+  input::key_down(window, {.code = key::enter});
+  EXPECT_EQ(clicks, 3);
+}
+
+// Panels that come up under hammering hands.
+
+class Panel : public Focus {
+ protected:
+  Panel() {
+    window.KeyPause = 700;
+    button.Default = button.Cancel = true;
+    button.Click = [this] { ++clicks; };
+    platform.advance(5000);
+  }
+
+  int clicks = 0;
+};
+
+TEST_F(Panel, SpaceAndEnterAreNotHeardAtOnce) {
+  show();
+  input::focus(button);
+  hand::key(window, key::space);
+  platform.advance(100);
+  hand::key(window, key::enter);
+  EXPECT_EQ(clicks, 0);
+  platform.advance(700);
+  hand::key(window, key::space);
+  EXPECT_EQ(clicks, 1);
+  hand::key(window, key::space);
+  EXPECT_EQ(clicks, 2) << "once heard, they are heard";
+}
+
+TEST_F(Panel, WhoHammersIsNotHeardUntilTheHandRests) {
+  show();
+  input::focus(button);
+  for (int i = 0; i < 50; ++i) {
+    hand::key(window, key::space);
+    platform.advance(200);
+  }
+  EXPECT_EQ(clicks, 0);
+  platform.advance(500);
+  hand::key(window, key::enter);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Panel, AKeyHeldFromBeforeIsNotHeardUntilItIsLetGo) {
+  show();
+  input::focus(button);
+  for (int i = 0; i < 100; ++i) {
+    input::key_down(window, {.code = key::space, .repeated = true});
+    platform.advance(30);
+  }
+  EXPECT_EQ(clicks, 0);
+  platform.advance(700);
+  hand::key(window, key::space);
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST_F(Panel, TheMouseAndEscapeAreHeardAtOnce) {
+  show();
+  hand::click(button);
+  hand::key(window, key::escape);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST_F(Panel, ItComesUpAnewEachTime) {
+  show();
+  platform.advance(1000);
+  platform.hide(window);
+  show();
+  input::focus(button);
+  hand::key(window, key::space);
+  EXPECT_EQ(clicks, 0);
+}
+
 // What is hidden.
 
 TEST_F(Keys, AHiddenElementDoesNotKeepTheFocus) {

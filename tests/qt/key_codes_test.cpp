@@ -68,6 +68,57 @@ TEST(KeyCodes, TheShiftMaskNamesWhatIsHeldBesideTheKey) {
   EXPECT_EQ(pressed(Qt::Key_Alt, {}, Qt::AltModifier | Qt::ShiftModifier).shift, shift::shift);
 }
 
+// A key as an X server tells of it: its place on the keyboard goes along.
+KeyEvent pressed_at(quint32 scan_code, int qt_key, const QString& types, Qt::KeyboardModifiers held) {
+  return to_key_event(QKeyEvent(QEvent::KeyPress, qt_key, held, scan_code, 0, 0, types));
+}
+
+TEST(KeyCodes, CommaPeriodAndMinusHaveTheSystemsCodes) {
+  EXPECT_EQ(pressed(Qt::Key_Comma, ",").code, 188);
+  EXPECT_EQ(pressed(Qt::Key_Minus, "-").code, 189);
+  EXPECT_EQ(pressed(Qt::Key_Period, ".").code, 190);
+  EXPECT_EQ(pressed(Qt::Key_Comma, ",").character, u',');
+}
+
+TEST(KeyCodes, WithShiftTheyAreStillTheSameKeys) {
+  constexpr quint32 comma_place = 59;
+  constexpr quint32 period_place = 60;
+  EXPECT_EQ(pressed_at(comma_place, Qt::Key_Question, "?", Qt::ShiftModifier).code, 188) << "Hungarian";
+  EXPECT_EQ(pressed_at(comma_place, Qt::Key_Less, "<", Qt::ShiftModifier).code, 188) << "English";
+  EXPECT_EQ(pressed_at(period_place, Qt::Key_Colon, ":", Qt::ShiftModifier).code, 190);
+  EXPECT_EQ(pressed_at(61, Qt::Key_Underscore, "_", Qt::ShiftModifier).code, 189);
+  EXPECT_EQ(pressed_at(comma_place, Qt::Key_Question, "?", Qt::ShiftModifier).character, u'?');
+}
+
+TEST(KeyCodes, SignsAreNeverTakenForArrowsOrPageKeys) {
+  const std::pair<Qt::Key, char> signs[] = {
+      {Qt::Key_Percent, '%'}, {Qt::Key_Ampersand, '&'}, {Qt::Key_Apostrophe, '\''}, {Qt::Key_ParenLeft, '('},
+      {Qt::Key_Exclam, '!'},  {Qt::Key_QuoteDbl, '"'},  {Qt::Key_NumberSign, '#'},  {Qt::Key_Dollar, '$'},
+      {Qt::Key_Slash, '/'},   {Qt::Key_Plus, '+'},      {Qt::Key_AsciiCircum, '^'}, {Qt::Key_BraceLeft, '{'},
+      {Qt::Key_Bar, '|'},     {Qt::Key_At, '@'},        {Qt::Key_ParenRight, ')'}};
+  for (const auto& [qt_key, sign] : signs) {
+    const QString types{QLatin1Char(sign)};
+    EXPECT_EQ(pressed(qt_key, types).code, 0) << sign;
+    EXPECT_EQ(pressed(qt_key, types, Qt::ShiftModifier).code, 0) << sign << " where no place is told";
+    EXPECT_EQ(pressed(qt_key, types).character, static_cast<char16_t>(sign));
+  }
+}
+
+TEST(KeyCodes, ADigitKeyHasItsCodeWithShiftToo) {
+  EXPECT_EQ(pressed_at(10, Qt::Key_Apostrophe, "'", Qt::ShiftModifier).code, '1');
+  EXPECT_EQ(pressed_at(14, Qt::Key_Percent, "%", Qt::ShiftModifier).code, '5');
+  EXPECT_EQ(pressed_at(18, Qt::Key_ParenRight, ")", Qt::ShiftModifier).code, '9');
+  EXPECT_EQ(pressed_at(19, Qt::Key_ParenRight, ")", Qt::ShiftModifier).code, '0');
+  EXPECT_EQ(pressed_at(49, Qt::Key_section, "§", Qt::ShiftModifier).code, '0');
+  EXPECT_EQ(pressed_at(19, 0xD6, "Ö", Qt::ShiftModifier).code, 214) << "a letter, whatever its place";
+}
+
+TEST(KeyCodes, LettersThatTheCodePageHasElsewhereHaveNone) {
+  EXPECT_EQ(pressed(0xD1, "Ñ").code, 0);
+  EXPECT_EQ(pressed(0xDF, "ß").code, 0);
+  EXPECT_EQ(pressed(0xD7, "×").code, 0);
+}
+
 TEST(KeyCodes, KeysOfNoCodeAreCodeZero) {
   EXPECT_EQ(pressed(Qt::Key_AltGr).code, 0);
   EXPECT_EQ(pressed(Qt::Key_VolumeUp).code, 0);

@@ -10,8 +10,6 @@
 namespace cserko {
 namespace {
 
-constexpr int comma_key = 188;
-
 class DrumTest : public SuiteTest {
  protected:
   DrumTest() {
@@ -107,7 +105,7 @@ TEST_F(DrumTest, WithFewerSoundsTheLaterKeysAreSilentAndStillShowTheirLetter) {
 
 TEST_F(DrumTest, WithoutAnySoundEveryKeyIsSilent) {
   auto& drum = open<frm_dobszerkó>();
-  hand::key(drum, comma_key);
+  hand::key(drum, key::comma);
   hand::key(drum, 'A');
   EXPECT_TRUE(machine.media().played.empty());
   EXPECT_EQ(utf8(drum.Label1.Caption), "A");
@@ -116,8 +114,8 @@ TEST_F(DrumTest, WithoutAnySoundEveryKeyIsSilent) {
 TEST_F(DrumTest, TheSameKeyAgainRestartsItsSound) {
   put_drums({u"x.wav"});
   auto& drum = open<frm_dobszerkó>();
-  hand::key(drum, comma_key);
-  hand::key(drum, comma_key);
+  hand::key(drum, key::comma);
+  hand::key(drum, key::comma);
   EXPECT_EQ(commands(), start_of("x.wav") + "close hang\n" + start_of("x.wav"));
   EXPECT_EQ(machine.media().played.size(), 2U);
 }
@@ -180,7 +178,7 @@ TEST_F(DrumTest, TheBigLetterBeginsAsTheTallestGlyphAtTheFirstSizeThatFillsItsPl
 
 TEST_F(DrumTest, TheKeyboardStrikesTheSameKeysAsTheMouse) {
   auto& drum = open<frm_dobszerkó>();
-  hand::key(drum, comma_key);
+  hand::key(drum, key::comma);
   EXPECT_EQ(utf8(drum.Label1.Caption), ",");
   EXPECT_EQ(drum.BackColor, drum.billentyű[44].BackColor);
   for (int code = 65; code <= 90; ++code) {
@@ -194,7 +192,7 @@ TEST_F(DrumTest, OtherKeysAreIgnored) {
   auto& drum = open<frm_dobszerkó>();
   const Color before = drum.BackColor;
   for (int code = 1; code <= 255; ++code) {
-    if (code == key::escape || code == comma_key || (code >= 65 && code <= 90)) continue;
+    if (code == key::escape || code == key::comma || (code >= 65 && code <= 90)) continue;
     hand::key(drum, code);
     EXPECT_EQ(commands(), "") << code;
     EXPECT_EQ(drum.BackColor, before) << code;
@@ -271,7 +269,7 @@ TEST_F(DrumTest, AsARewardItTogglesTheMusicOnceAndStartsTheCountAnew) {
   then_in<frm_dobszerkó>([this](frm_dobszerkó& drum) {
     EXPECT_EQ(session().játékszámláló, 5);
     EXPECT_EQ(machine.media().mode(MediaAlias::Midi), MediaMode::Paused);
-    hand::key(drum, comma_key);
+    hand::key(drum, key::comma);
     hand::key(drum, key::escape);
   });
   machine.show_modal(load<frm_gratuláció>());

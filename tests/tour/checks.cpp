@@ -1,5 +1,7 @@
 #include "tests/tour/checks.h"
 
+#include "platform/button_face.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -15,10 +17,6 @@ constexpr double rim = 4 * twips_per_pixel;
 
 bool has_place(const Element& element) {
   return element.kind() != ElementKind::Timer && element.kind() != ElementKind::MenuItem;
-}
-
-bool draws_picture(const Element& element) {
-  return element.kind() == ElementKind::Button && static_cast<const Button&>(element).Picture != nullptr;
 }
 
 // A label without text, frame and ground shows nothing and hides nothing.
@@ -104,7 +102,8 @@ class Inspector {
       }
       break;
     case ElementKind::Button:
-      if (!draws_picture(element)) inspect_wrapped(element, element.Width);
+      if (!element.Caption.empty())
+        inspect_wrapped(element, face_of(static_cast<const Button&>(element)).caption.width);
       break;
     case ElementKind::CheckBox:
     case ElementKind::OptionButton:

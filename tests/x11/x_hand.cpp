@@ -46,6 +46,9 @@ std::uint32_t symbol_of(int code) {
     if (entry.code == code) return entry.symbol;
   }
   if (code >= key::f1 && code < key::f1 + 12) return f1_symbol + static_cast<std::uint32_t>(code - key::f1);
+  if (code == key::comma) return ',';
+  if (code == key::minus) return '-';
+  if (code == key::period) return '.';
   // The symbol of a character of Latin 1 is its code; keys are named by what they type without shift.
   if (code == key::space || (code >= '0' && code <= '9')) return static_cast<std::uint32_t>(code);
   if (code >= 'A' && code <= 'Z') return static_cast<std::uint32_t>(code - 'A' + 'a');
