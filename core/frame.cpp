@@ -2,6 +2,7 @@
 
 #include "core/frm_referencia.h"
 #include "core/numbers.h"
+#include "platform/button_face.h"
 
 #include <algorithm>
 #include <utility>
@@ -106,8 +107,10 @@ void fit_caption(Element& control, Text& text) {
   control.Font.name = text_font;
   Font font = control.Font;
   font.size = 6;
+  const bool button = control.kind() == ElementKind::Button;
+  const double width = button ? face_of(static_cast<const Button&>(control)).caption.width : control.Width;
   control.Font.size = first_overfilling_size(control.window().platform(), font, without_mnemonic(text),
-                                             {0.9 * control.Width, 0.9 * control.Height});
+                                             {0.9 * width, 0.9 * control.Height});
   if (control.kind() == ElementKind::Label) {
     static_cast<Label&>(control).set_caption(text);
   } else {

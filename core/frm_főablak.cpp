@@ -36,6 +36,7 @@ frm_főablak::frm_főablak(Session& session)
   dísz.TabStop = false;
   lbldisz.Click = [this] { lbldisz.Font.size += 1; };
   Timer1.Tick = [this] { Timer1_tick(); };
+  cmd_súgó.TabIndex = 1; // behind the exercises
   cmd_súgó.Click = [this] { open_help(); };
 }
 

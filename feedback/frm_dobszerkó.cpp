@@ -12,7 +12,6 @@ namespace cserko {
 
 namespace {
 
-constexpr int comma_key = 188;
 constexpr double key_pitch = 960;
 constexpr double first_row = 2700;
 
@@ -113,7 +112,7 @@ void frm_dobszerkó::strike(int index) {
 void frm_dobszerkó::KeyDown(KeyEvent& event) {
   if (event.code == key::escape) {
     session_.unload(*this);
-  } else if (event.code == comma_key) {
+  } else if (event.code == key::comma) {
     strike(comma);
   } else if (event.code >= first_letter && event.code <= last_letter) {
     strike(event.code);

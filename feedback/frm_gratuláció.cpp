@@ -3,6 +3,7 @@
 #include "core/frame.h"
 #include "core/numbers.h"
 #include "feedback/frm_hangbeáll.h"
+#include "feedback/message_panels.h"
 #include "feedback/sounds.h"
 
 namespace cserko {
@@ -20,6 +21,8 @@ constexpr std::array<TextView, 4> count_words{u"egyet", u"kettőt", u"hármat", 
 frm_gratuláció::frm_gratuláció(Session& session)
     : Window(session.platform(), u"frm_gratuláció", {9600, 6900}, u"Cserkó"), session_(session) {
   lbl_vissza.Visible = false;
+  KeyPause = message_key_pause;
+  Picture1.TabStop = false;
   cmd_ok.Default = true;
   cmd_ok.Click = [this] { ok(); };
   cmd_dob.Enabled = session.offers(drum_window);

@@ -58,6 +58,8 @@ void frm_hangbeáll::Load() {
   read_files();
   refresh_labels();
   // One pair of icons in the design serves all three lists.
+  cmd_hibahang_add.Picture = platform().load_picture(session_.alapkönyvtár + u"cserko\\listára.wmf");
+  cmd_hangtörl_hibahangból.Picture = platform().load_picture(session_.alapkönyvtár + u"cserko\\listáról.wmf");
   cmd_gartula.Picture = cmd_hibahang_add.Picture;
   cmd_helyeshang_add.Picture = cmd_hibahang_add.Picture;
   cmd_hangtörl_gratulahangból.Picture = cmd_hangtörl_hibahangból.Picture;

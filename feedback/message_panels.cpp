@@ -25,6 +25,7 @@ szövegüzenet::szövegüzenet(Session& session)
     : Window(session.platform(), u"szövegüzenet", {7680, 4380}, u"Cserkó Üzenet"), session_(session) {
   szöveg.Change = [this] { fit_text(); };
   szöveg.Click = [this] { fit_text(); };
+  KeyPause = message_key_pause;
   Command1.Default = true;
   Command1.Cancel = true;
   Command1.Click = [this] { session_.unload(*this); };
@@ -55,6 +56,8 @@ void szövegüzenet::fit_text() {
 
 üzenet::üzenet(Session& session)
     : Window(session.platform(), u"üzenet", {7680, 6000}, u"Cserkó Üzenet"), session_(session) {
+  üzenet_kép.TabStop = false;
+  KeyPause = message_key_pause;
   Command1.Default = true;
   Command1.Cancel = true;
   Command1.Click = [this] { session_.unload(*this); };
@@ -70,6 +73,8 @@ void üzenet::Activate() { szöveg_illesztés(üzenet_szöveg); }
 
 frm_szövegüzenet::frm_szövegüzenet(Session& session)
     : Window(session.platform(), u"frm_szövegüzenet", {7680, 4380}, u"Üzenet"), session_(session) {
+  pic_üzenet.TabStop = false;
+  KeyPause = message_key_pause;
   cmd_ok.Default = true;
   cmd_ok.Cancel = true;
   cmd_ok.Click = [this] { session_.unload(*this); };
@@ -85,6 +90,8 @@ void frm_szövegüzenet::Load() {
 
 frm_üzenet::frm_üzenet(Session& session)
     : Window(session.platform(), u"frm_üzenet", {7680, 6960}, u"Üzenet"), session_(session) {
+  kép.TabStop = false;
+  KeyPause = message_key_pause;
   cmd_ok.Default = true;
   cmd_ok.Cancel = true;
   cmd_ok.Click = [this] { session_.unload(*this); };

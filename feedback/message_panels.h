@@ -5,6 +5,10 @@
 
 namespace cserko {
 
+/// What a panel with a message gives its reader: a child that hammers on the space bar, or holds it down from the
+/// exercise on, has to let it be for so long before it presses the button of the panel. The mouse is heard at once.
+inline constexpr int message_key_pause = 700; // ms
+
 /// A text with a button. Set the text with `szöveg.set_caption` before showing it: the text is fitted at once.
 class szövegüzenet : public Window {
  public:

@@ -6,6 +6,7 @@ namespace cserko {
 
 Névjegy::Névjegy(Session& session) : Window(session.platform(), u"Névjegy", {6960, 3900}, u""), session_(session) {
   lblTitle.Font.size = 24;
+  imgLogo.TabStop = false;
   cmdOK.Default = true;
   cmdOK.Cancel = true;
   cmdOK.Click = [this] { session_.unload(*this); };

@@ -83,6 +83,28 @@ QByteArray card_back() {
   return write_metafile(device.shapes());
 }
 
+// A plus or a cross on a round plate: an entry joins a list, or leaves it.
+QByteArray list_icon(const QColor& plate, double turn) {
+  constexpr double arm = 0.62, thickness = 0.2; // as parts of the plate's radius
+  const double radius = kMetafileSide / 2.0;
+  MetafileDevice device;
+  QPainter painter(&device);
+  painter.setPen(Qt::NoPen);
+  painter.translate(radius, radius);
+  painter.setBrush(plate);
+  painter.drawEllipse(QPointF(0, 0), radius * 0.96, radius * 0.96);
+  painter.setBrush(QColor(0xFF, 0xF6, 0xE0));
+  for (const double angle : {turn, turn + 90}) {
+    painter.save();
+    painter.rotate(angle);
+    painter.drawRect(QRectF(-arm * radius, -thickness / 2 * radius, 2 * arm * radius, thickness * radius));
+    painter.restore();
+  }
+  painter.end();
+  if (!device.refusal().isEmpty()) throw PackError("an icon cannot be kept: " + device.refusal());
+  return write_metafile(device.shapes());
+}
+
 // A small generator of its own keeps the paper's grain the same in every build.
 class Grain {
  public:
@@ -139,6 +161,8 @@ void build_look(const BuildPaths& paths) {
   write_if_changed(paths.output + "/paper.png", png_of(paper()));
   write_if_changed(paths.output + "/kártyahát.wmf", card_back());
   build_tool_pictures(paths.output);
+  write_if_changed(paths.output + "/listára.wmf", list_icon(QColor(0x3F, 0x6B, 0x3A), 0));
+  write_if_changed(paths.output + "/listáról.wmf", list_icon(QColor(0x9A, 0x3B, 0x26), 45));
 }
 
 } // namespace cserko

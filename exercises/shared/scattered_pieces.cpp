@@ -96,12 +96,12 @@ std::vector<int> ScatteredPieces::line_up(double row_width, By by) {
 
 void ScatteredPieces::select(int piece) {
   kijelölés_törlése();
-  pieces_[piece].Border = true;
+  pieces_[piece].Border = pieces_[piece].Selected = true;
   selected_ = piece;
 }
 
 void ScatteredPieces::kijelölés_törlése() {
-  pieces_.each([](Label& piece) { piece.Border = false; });
+  pieces_.each([](Label& piece) { piece.Border = piece.Selected = false; });
   selected_.reset();
   picked_up_.reset();
 }

@@ -461,7 +461,10 @@ TEST_F(SurplusLetterTest, IsPlayedByKeysAlone) {
   machine.advance(2000);
   EXPECT_EQ(utf8(w.lbl_eredmény[0].Caption), "asz-tal");
   EXPECT_EQ(w.focus(), &w.lbl_betű[2]) << "and stay in the row in the next word";
-  then_in<üzenet>([&](üzenet& panel) { hand::key(panel, key::enter); });
+  then_in<üzenet>([&](üzenet& panel) {
+    machine.advance(panel.KeyPause);
+    hand::key(panel, key::enter);
+  });
   hand::key(w, key::up);
   ASSERT_EQ(w.focus(), &w.pic_kép);
   hand::key(w, key::space);

@@ -304,6 +304,7 @@ TEST_F(WinderWordsTest, TabLeadsToThePicturesAndEnterOpensThePanel) {
   ASSERT_EQ(window.focus(), &window.kép[7]);
   then_in<üzenet>([&](üzenet& panel) {
     EXPECT_EQ(utf8(panel.üzenet_szöveg.Caption), "ház");
+    machine.advance(panel.KeyPause);
     hand::key(panel, key::enter);
   });
   hand::key(window, key::enter);

@@ -126,6 +126,7 @@ bool CserkóPlayer::read_panel(Window& panel, Hand& hand) {
 // By keyboard the focus goes on from control to control until it is on the button.
 bool CserkóPlayer::press(Window& window, Button& button, Hand& hand) const {
   if (!button.shown() || !button.usable()) return false;
+  if (mode_ == Mode::Keyboard && !hears_keys(window)) return false;
   if (mode_ == Mode::Mouse) {
     hand.click(button);
   } else {

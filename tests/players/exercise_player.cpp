@@ -52,8 +52,7 @@ bool ExercisePlayer::step(Window& top, Hand& hand) {
 
 bool ExercisePlayer::press(Button& button, Hand& hand) const {
   if (!button.shown() || !button.usable()) return false;
-  const Window& window = button.window();
-  if (!by_mouse() && window.platform().now() < window.keys_heard_from()) return false;
+  if (!by_mouse() && !hears_keys(button.window())) return false;
   if (by_mouse()) {
     hand.click(button);
   } else {

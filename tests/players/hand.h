@@ -2,9 +2,12 @@
 // it is given the hand that fits.
 #pragma once
 
-#include "platform/elements.h"
+#include "platform/platform.h"
 
 namespace cserko {
+
+/// Whether a window hears Space and Enter by now. A player waits for it: presses that come too early put it off.
+inline bool hears_keys(const Window& window) { return window.platform().now() >= window.keys_heard_from(); }
 
 class Hand {
  public:

@@ -277,7 +277,10 @@ TEST_F(BadInputTest, AnEmptyFolderOfPraisePicturesDoesNotStopTheCongratulation) 
   auto& window = deal({u"kos", u"hal", u"utolsó"});
   lay(window, {u"k", u"o", u"s"});
   hand::click(window.cmd_kész);
-  then([](Window& panel) { hand::key(panel, key::enter); });
+  then([this](Window& panel) {
+    machine.advance(panel.KeyPause);
+    hand::key(panel, key::enter);
+  });
   machine.advance(3000);
   EXPECT_FALSE(window.lbl_megoldás.Visible);
 }

@@ -96,6 +96,13 @@ TEST_F(MainWindowTest, HasItsMenus) {
   EXPECT_EQ(main.mnu_jutalom_rajz.container(), &main.mnu_jutalomjáték);
 }
 
+TEST_F(MainWindowTest, HelpComesLastForTheTabKey) {
+  auto& main = window();
+  EXPECT_EQ(utf8(main.focus()->Name), "cmd_játék");
+  hand::key(main, key::tab, shift::shift);
+  EXPECT_EQ(main.focus(), &main.cmd_súgó);
+}
+
 TEST_F(MainWindowTest, AButtonWithoutAnExerciseIsDisabled) {
   auto& main = window();
   for (int i = 0; i < 20; ++i) {

@@ -83,10 +83,14 @@ TEST_F(MessageTest, EveryPanelClosesByItsCloseControl) {
 
 TEST_F(MessageTest, EveryPanelClosesByEnterAndByEscape) {
   for (const int code : {key::enter, key::escape}) {
-    hand::key(open<szövegüzenet>(), code);
-    hand::key(open<üzenet>(), code);
-    hand::key(open<frm_szövegüzenet>(), code);
-    hand::key(open<frm_üzenet>(), code);
+    const auto closes = [&](Window& panel) {
+      machine.advance(message_key_pause);
+      hand::key(panel, code);
+    };
+    closes(open<szövegüzenet>());
+    closes(open<üzenet>());
+    closes(open<frm_szövegüzenet>());
+    closes(open<frm_üzenet>());
     expect_none_loaded();
   }
 }
@@ -99,6 +103,30 @@ TEST_F(MessageTest, EscapeClosesAPanelWhoseButtonHasNotTheFocus) {
   text.set_focus(nullptr);
   hand::key(text, key::escape);
   expect_none_loaded();
+}
+
+TEST_F(MessageTest, TheButtonHasTheKeyboardAndNoPictureDoes) {
+  EXPECT_EQ(open<szövegüzenet>().focus(), &session().window<szövegüzenet>().Command1);
+  EXPECT_EQ(open<üzenet>().focus(), &session().window<üzenet>().Command1);
+  EXPECT_EQ(open<frm_szövegüzenet>().focus(), &session().window<frm_szövegüzenet>().cmd_ok);
+  EXPECT_EQ(open<frm_üzenet>().focus(), &session().window<frm_üzenet>().cmd_ok);
+}
+
+TEST_F(MessageTest, AHammeredSpaceBarClosesNoPanelUnread) {
+  const auto closes_when_the_hand_rests = [this](Window& panel, const std::function<bool()>& loaded) {
+    for (int blow = 0; blow < 20; ++blow) {
+      hand::key(panel, blow % 2 == 0 ? key::space : key::enter);
+      ASSERT_TRUE(loaded()) << "after " << blow << " blows";
+      machine.advance(250);
+    }
+    machine.advance(message_key_pause);
+    hand::key(panel, key::space);
+    EXPECT_FALSE(loaded());
+  };
+  closes_when_the_hand_rests(open<szövegüzenet>(), [this] { return session().loaded<szövegüzenet>(); });
+  closes_when_the_hand_rests(open<üzenet>(), [this] { return session().loaded<üzenet>(); });
+  closes_when_the_hand_rests(open<frm_szövegüzenet>(), [this] { return session().loaded<frm_szövegüzenet>(); });
+  closes_when_the_hand_rests(open<frm_üzenet>(), [this] { return session().loaded<frm_üzenet>(); });
 }
 
 // szövegüzenet

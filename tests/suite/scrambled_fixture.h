@@ -58,6 +58,7 @@ class ScrambledTest : public SuiteTest {
     std::vector<int> all;
     window.betű.each([&](const Label& letter) {
       if (letter.Border) all.push_back(letter.Index);
+      EXPECT_EQ(letter.Selected, letter.Border) << "a screen reader is told of it";
     });
     return all;
   }

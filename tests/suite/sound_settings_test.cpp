@@ -432,14 +432,15 @@ TEST_F(SoundDialogTest, AListReadFromItsFileTellsItsCountFromTheStart) {
 }
 
 TEST_F(SoundDialogTest, TheThreeListsShareOnePairOfButtonPictures) {
-  put_app_file(u"cserko\\in.png");
-  put_app_file(u"cserko\\out.png");
+  put_app_file(u"cserko\\listára.wmf");
+  put_app_file(u"cserko\\listáról.wmf");
   auto& d = dialog();
-  const PicturePtr in = machine.load_picture(Text(app) + u"cserko\\in.png");
-  const PicturePtr out = machine.load_picture(Text(app) + u"cserko\\out.png");
-  d.cmd_hibahang_add.Picture = in;
-  d.cmd_hangtörl_hibahangból.Picture = out;
-  d.Load();
+  const PicturePtr in = d.cmd_hibahang_add.Picture;
+  const PicturePtr out = d.cmd_hangtörl_hibahangból.Picture;
+  ASSERT_NE(in, nullptr);
+  ASSERT_NE(out, nullptr);
+  EXPECT_EQ(utf8(in->path()), "c:\\cserko\\cserko\\listára.wmf");
+  EXPECT_EQ(utf8(out->path()), "c:\\cserko\\cserko\\listáról.wmf");
   EXPECT_EQ(d.cmd_gartula.Picture, in);
   EXPECT_EQ(d.cmd_helyeshang_add.Picture, in);
   EXPECT_EQ(d.cmd_hangtörl_gratulahangból.Picture, out);
