@@ -236,7 +236,6 @@ class ButtonWidget : public QPushButton {
                      : underMouse() ? theme::button_hover
                                     : theme::button);
     painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius, radius);
-    if (button_.Picture) paint_picture(painter);
     painter.setPen(text_color(*this, button_));
     const double padding = 60 * scale;
     const ButtonFace face = face_of(button_);
@@ -254,16 +253,6 @@ class ButtonWidget : public QPushButton {
   }
 
  private:
-  void paint_picture(QPainter& painter) {
-    constexpr double share = 0.7; // of the shorter side: the button around it stays a button
-    const double ratio = devicePixelRatioF();
-    const QSize box = (QSizeF(size()) * ratio * share).toSize();
-    const QImage image = static_cast<const QtPicture&>(*button_.Picture).image(box);
-    QRectF place(QPointF(), QSizeF(image.size()) / ratio);
-    place.moveCenter(QRectF(rect()).center());
-    painter.drawImage(place, image);
-  }
-
   Button& button_;
   ViewContext& context_;
 };

@@ -148,7 +148,8 @@ const Played played{
      .window = u"frm_betűhiány",
      .tasks = 6,
      .make = make_player<BetűhiányPlayer>,
-     .gathered = [](Window& window) { return solved_tasks(dynamic_cast<frm_betűhiány&>(window).lbl_eredmény); },
+     .gathered = [](Window& window,
+                    const Player&) { return solved_tasks(dynamic_cast<frm_betűhiány&>(window).lbl_eredmény); },
      .heard_right = right_sounds,
      .heard_wrong = wrong_sounds}};
 

@@ -52,7 +52,7 @@ const Played played{{.name = "letter_sorting",
                      .tasks = frm_betűválogatás::places,
                      .make = make_player<BetűválogatásPlayer>,
                      .gathered =
-                         [](Window& window) {
+                         [](Window& window, const Player&) {
                            int shown = 0;
                            dynamic_cast<frm_betűválogatás&>(window).eredménykép.each(
                                [&](const PictureBox& place) { shown += place.shown() ? 1 : 0; });
