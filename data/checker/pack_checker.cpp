@@ -112,7 +112,7 @@ QStringList check(const Paths& paths) {
   if (records.size() < kFewestRecords)
     faults << QString("%1 records, at least %2 are needed").arg(records.size()).arg(kFewestRecords);
   faults += stale_faults(records, paths.pack + "/kepek");
-  faults += folder_faults(paths.pack + "/kepek");
+  faults += folder_review({paths.pack + "/kepek"}).all();
   faults += name_faults(records) + opening_faults(records);
   faults += spelling_faults(records, paths.dictionaries, spelling);
   faults += syllable_faults(records, paths.dictionaries, syllables);

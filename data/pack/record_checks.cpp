@@ -2,6 +2,7 @@
 
 #include "core/kszöveg.h"
 #include "data/pack/picture.h"
+#include "data/pack/record_folders.h"
 #include "data/pack/table.h"
 
 #include <QDir>
@@ -82,8 +83,6 @@ void check_names(const WordRecord& record, QStringList& faults) {
   if (!english.match(record.english).hasMatch()) faults << "Az angol név csak angol betűkből állhat: " + record.english;
   if (!syllables_fit_name(record.name, record.syllables))
     faults << QString("A szótagolt alak nem rakható ki a névből: %1, %2.").arg(record.name, record.syllables);
-  if (!one_vowel_each(record.syllables))
-    faults << "Minden szótagban pontosan egy magánhangzónak kell lennie: " + record.syllables;
 }
 
 void check_sentence(const QString& field, const QString& sentence, QStringList& faults) {
@@ -118,13 +117,6 @@ struct Twins {
       first_seen.insert(key, where);
   }
 };
-
-// A record's picture: a metafile, or a picture of another kind that the program takes where there is none.
-QString picture_beside(const QDir& folder, const QString& base) {
-  for (const char* ending : {".wmf", ".png", ".jpg", ".jpeg"})
-    if (folder.exists(base + ending)) return folder.filePath(base + ending);
-  return {};
-}
 
 QString picture_fault(const QString& path) {
   if (path.isEmpty()) return "nincs hozzá kép.";
@@ -181,47 +173,60 @@ QStringList record_faults(const WordRecord& record) {
   check_characters("A meghatározás", record.definition, faults);
   check_characters("Az igaz állítás", record.truth, faults);
   check_characters("A hamis állítás", record.falsehood, faults);
-  if (!faults.isEmpty()) return faults;
-  check_names(record, faults);
-  check_sentence("A meghatározás", record.definition, faults);
-  check_sentence("Az igaz állítás", record.truth, faults);
-  check_sentence("A hamis állítás", record.falsehood, faults);
-  if (names_itself(record.name, record.definition))
-    faults << QString("A meghatározás elárulja a szót: %1, %2").arg(record.name, record.definition);
-  check_statements(record, faults);
+  if (faults.isEmpty()) check_names(record, faults);
   return faults;
 }
 
-QStringList folder_faults(const QString& folder_path) {
-  const QDir folder(folder_path);
-  if (!folder.exists()) return {folder_path + ": nincs ilyen mappa."};
-  const QStringList texts = folder.entryList({"*.wms"}, QDir::Files);
-  if (texts.isEmpty()) return {folder_path + ": nincs benne egyetlen szó sem."};
-  QStringList faults;
+QStringList style_remarks(const WordRecord& record) {
+  QStringList remarks;
+  if (!one_vowel_each(record.syllables))
+    remarks << "Minden szótagban pontosan egy magánhangzónak kell lennie: " + record.syllables;
+  check_sentence("A meghatározás", record.definition, remarks);
+  check_sentence("Az igaz állítás", record.truth, remarks);
+  check_sentence("A hamis állítás", record.falsehood, remarks);
+  if (names_itself(record.name, record.definition))
+    remarks << QString("A meghatározás elárulja a szót: %1, %2").arg(record.name, record.definition);
+  check_statements(record, remarks);
+  return remarks;
+}
+
+Review folder_review(const QStringList& folder_paths) {
+  for (const QString& path : folder_paths)
+    if (!QDir(path).exists()) return {{path + ": nincs ilyen mappa."}, {}};
+  const RecordFolders folders(folder_paths);
+  const QStringList texts = folders.names("*.wms");
+  if (texts.isEmpty()) return {{folders.first() + ": nincs benne egyetlen szó sem."}, {}};
+  Review review;
   Twins names, definitions, pictures;
   for (int i = 0; i < texts.size(); ++i) {
-    const QString base = QString::number(i), where = base + ".wms";
-    if (!folder.exists(where)) {
-      faults << QString("%1: hiányzik; a fájlok száma %2, a számozás 0-tól folytonos.").arg(where).arg(texts.size());
+    const QString base = QString::number(i), where = base + ".wms", path = folders.find(where);
+    if (path.isEmpty()) {
+      review.faults
+          << QString("%1: hiányzik; a fájlok száma %2, a számozás 0-tól folytonos.").arg(where).arg(texts.size());
       continue;
     }
-    const auto record = read_record(read_file(folder.filePath(where)));
+    const auto record = read_record(read_file(path));
     if (!record) {
-      faults << where + ": nyolc sorból kell állnia.";
+      review.faults << where + ": nyolc sorból kell állnia.";
       continue;
     }
-    for (const QString& fault : record_faults(*record)) faults << where + ": " + fault;
-    const QString picture = picture_beside(folder, base);
+    const QStringList faults = record_faults(*record);
+    for (const QString& fault : faults) review.faults << where + ": " + fault;
+    // What is not even there has no style.
+    for (const QString& remark : faults.isEmpty() ? style_remarks(*record) : QStringList())
+      review.remarks << where + ": " + remark;
+    const QString picture = folders.picture(base);
     if (const QString fault = picture_fault(picture); !fault.isEmpty())
-      faults << where + ": " + fault;
+      review.faults << where + ": " + fault;
     else
-      pictures.see(QString::fromLatin1(read_file(picture).toHex()), where, "a kép", faults);
-    names.see(record->name.toLower(), where, "a név", faults);
-    definitions.see(record->definition, where, "a meghatározás", faults);
+      pictures.see(QString::fromLatin1(read_file(picture).toHex()), where, "a kép", review.remarks);
+    names.see(record->name.toLower(), where, "a név", review.faults);
+    definitions.see(record->definition, where, "a meghatározás", review.remarks);
   }
-  for (const QString& picture : folder.entryList({"*.wmf"}, QDir::Files))
-    if (!folder.exists(QFileInfo(picture).completeBaseName() + ".wms")) faults << picture + ": nincs hozzá szöveg.";
-  return faults;
+  for (const QString& picture : folders.names("*.wmf"))
+    if (folders.find(QFileInfo(picture).completeBaseName() + ".wms").isEmpty())
+      review.faults << picture + ": nincs hozzá szöveg.";
+  return review;
 }
 
 } // namespace cserko

@@ -2,12 +2,14 @@
 
 #include "data/pack/picture.h"
 #include "data/pack/record_checks.h"
+#include "data/pack/record_folders.h"
 #include "data/pack/table.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QImageReader>
 #include <QPainter>
+#include <QSet>
 #include <algorithm>
 
 namespace cserko {
@@ -79,28 +81,40 @@ PictureFile read_picture(const QString& path) {
   throw PackError("a kép SVG, PNG, JPEG vagy WMF legyen.");
 }
 
-// Files of a folder whose base name is that number, whatever their endings and their case.
-bool taken(const QDir& folder, int number) {
-  return !folder.entryList({QString("%1.*").arg(number)}, QDir::Files).isEmpty();
-}
-
-int first_free_number(const QDir& folder) {
+// The first number that no file has as its base name, whatever its ending and its case: behind the pack's.
+int first_free_number(const RecordFolders& folders) {
+  QSet<QString> taken;
+  for (const QString& name : folders.names("*")) taken << name.section('.', 0, 0);
   int number = 0;
-  while (taken(folder, number)) ++number;
+  while (taken.contains(QString::number(number))) ++number;
   return number;
 }
 
-QStringList twin_faults(const QDir& folder, const WordRecord& record) {
-  QStringList faults;
-  for (const QString& name : folder.entryList({"*.wms"}, QDir::Files)) {
-    const auto other = read_record(read_file(folder.filePath(name)));
+// The word list has one word a line, in small letters.
+bool in_word_list(const QByteArray& list, const QString& name) {
+  const QByteArray line = to_code_page(name.toLower()) + "\r\n";
+  return list.startsWith(line) || list.contains("\n" + line);
+}
+
+void look_at_twins(const RecordFolders& folders, const WordRecord& record, Review& review) {
+  for (const QString& name : folders.names("*.wms")) {
+    const auto other = read_record(read_file(folders.find(name)));
     if (!other) continue;
     if (other->name.compare(record.name, Qt::CaseInsensitive) == 0)
-      faults << QString("Ez a szó már megvan: %1 (%2).").arg(record.name, name);
+      review.faults << QString("Ez a szó már megvan: %1 (%2).").arg(record.name, name);
     else if (other->definition == record.definition)
-      faults << QString("Ez a meghatározás már megvan: %1 (%2).").arg(record.definition, name);
+      review.remarks << QString("Ez a meghatározás már megvan: %1 (%2).").arg(record.definition, name);
   }
-  return faults;
+}
+
+Review review_of(const RecordFolders& folders, const WordRecord& record, const QByteArray& word_list) {
+  Review review{record_faults(record), {}};
+  if (!review.faults.isEmpty()) return review;
+  review.remarks = style_remarks(record);
+  look_at_twins(folders, record, review);
+  if (!word_list.isEmpty() && !in_word_list(word_list, record.name))
+    review.remarks << QString("A szó nincs a program szójegyzékében, jól van írva? %1").arg(record.name);
+  return review;
 }
 
 void write_new(const QString& path, const QByteArray& bytes) {
@@ -115,15 +129,17 @@ void write_new(const QString& path, const QByteArray& bytes) {
 
 } // namespace
 
-AddedWord add_word(const QString& folder_path, const WordRecord& record, const QString& picture_path) {
+AddedWord add_word(const QStringList& folder_paths, const WordRecord& record, const QString& picture_path,
+                   const WordRules& rules) {
   AddedWord result;
-  const QDir folder(folder_path);
-  if (!folder.exists()) return {{folder_path + ": nincs ilyen mappa."}, {}, {}};
+  const RecordFolders folders(folder_paths);
+  const QDir folder(folders.first());
+  if (folder_paths.isEmpty() || !folder.exists()) return {{{folders.first() + ": nincs ilyen mappa."}, {}}, {}, {}};
   try {
-    result.faults = record_faults(record) + twin_faults(folder, record);
-    if (!result.faults.isEmpty()) return result;
+    result.review = review_of(folders, record, rules.word_list);
+    if (!result.review.faults.isEmpty() || (rules.strict && !result.review.remarks.isEmpty())) return result;
     const PictureFile picture = read_picture(picture_path);
-    const QString base = folder.filePath(QString::number(first_free_number(folder)));
+    const QString base = folder.filePath(QString::number(first_free_number(folders)));
     write_new(base + picture.ending, picture.bytes);
     result.picture = base + picture.ending;
     write_new(base + ".wms", record_bytes(record));
@@ -131,7 +147,7 @@ AddedWord add_word(const QString& folder_path, const WordRecord& record, const Q
   } catch (const PackError& error) {
     // A picture without its text would keep its number taken for ever.
     if (!result.picture.isEmpty()) QFile::remove(result.picture);
-    return {{QFileInfo(picture_path).fileName() + ": " + error.what()}, {}, {}};
+    return {{{QFileInfo(picture_path).fileName() + ": " + error.what()}, result.review.remarks}, {}, {}};
   }
   return result;
 }

@@ -1,9 +1,10 @@
-// cserko-szó: adds a user's own word to a folder of words, or checks such a folder.
-#include "data/pack/record_checks.h"
+// cserko-szó: adds a user's own word to those of the program, or looks the words through.
 #include "data/pack/table.h"
 #include "data/word_tool/add_word.h"
+#include "platform/qt/files.h"
 
 #include <QCommandLineParser>
+#include <QDir>
 #include <QGuiApplication>
 #include <cstdio>
 
@@ -12,29 +13,69 @@ using namespace cserko;
 namespace {
 
 constexpr int kRefused = 1, kWrongUse = 2;
+const QString kRemark = QStringLiteral("Figyelmeztetés: ");
 
 void say(FILE* stream, const QString& text) { std::fprintf(stream, "%s\n", text.toUtf8().constData()); }
 
-int check_folder(const QString& folder) {
-  const QStringList faults = folder_faults(folder);
-  for (const QString& fault : faults) say(stderr, fault);
-  if (faults.isEmpty()) say(stdout, "A mappa minden szava rendben van.");
-  return faults.isEmpty() ? 0 : kRefused;
+QString wrong_use(const QString& what) { return what + QStringLiteral(" A használat: cserko-szó --help"); }
+
+// Where the program on this machine reads its words: the pack, behind a folder of the user's where the pack is
+// read-only.
+QtFiles program_files() { return {QtFiles::find_pack(), QtFiles::find_user_folder()}; }
+
+QStringList program_folders() {
+  if (QtFiles::find_pack().isEmpty())
+    throw PackError(
+        QStringLiteral("Cserkó szavai nincsenek meg ezen a gépen; a --folder kapcsolóval add meg a mappát."));
+  return program_files().real_paths(Text(logical_application_folder) + u"kepek");
+}
+
+// The folders to look through; the user's own is not there before its first word.
+int check(const QStringList& given) {
+  QStringList folders = given;
+  if (given.isEmpty())
+    for (const QString& folder : program_folders())
+      if (QDir(folder).exists()) folders << folder;
+  const Review review = folder_review(folders);
+  for (const QString& remark : review.remarks) say(stderr, kRemark + remark);
+  for (const QString& fault : review.faults) say(stderr, fault);
+  if (!review.faults.isEmpty()) return kRefused;
+  say(stdout, "A mappa minden szava használható.");
+  return 0;
+}
+
+QStringList folders_to_write(const QCommandLineParser& given) {
+  if (given.isSet("folder")) return {given.value("folder")};
+  QStringList folders = program_folders();
+  QDir().mkpath(folders.first());
+  return folders;
+}
+
+WordRules rules(const QCommandLineParser& given) {
+  WordRules result;
+  result.strict = given.isSet("strict");
+  if (const auto list = program_files().read(Text(logical_application_folder) + u"ms.skt"))
+    result.word_list = QByteArray::fromStdString(*list);
+  return result;
 }
 
 int add(const QCommandLineParser& given) {
-  const QStringList needed{"folder", "name", "english", "syllables", "definition", "true", "false", "picture"};
+  const QStringList needed{"name", "english", "syllables", "definition", "true", "false", "picture"};
   for (const QString& option : needed)
     if (given.value(option).isEmpty()) {
-      say(stderr, QString("Hiányzik: --%1. A használat: cserko-szó --help").arg(option));
+      say(stderr, wrong_use(QString("Hiányzik: --%1.").arg(option)));
       return kWrongUse;
     }
-  const auto text = [&](const char* option) { return given.value(option).normalized(QString::NormalizationForm_C); };
+  // Blanks at the ends and doubled ones are nobody's intention.
+  const auto text = [&](const char* option) {
+    return given.value(option).normalized(QString::NormalizationForm_C).simplified();
+  };
   const WordRecord record{text("name"),       text("english"), text("syllables"),
                           text("definition"), text("true"),    text("false")};
-  const AddedWord added = add_word(given.value("folder"), record, given.value("picture"));
-  for (const QString& fault : added.faults) say(stderr, fault);
-  if (!added.faults.isEmpty()) return kRefused;
+  const AddedWord added = add_word(folders_to_write(given), record, given.value("picture"), rules(given));
+  for (const QString& remark : added.review.remarks) say(stderr, kRemark + remark);
+  for (const QString& fault : added.review.faults) say(stderr, fault);
+  if (added.text_file.isEmpty()) return kRefused;
   say(stdout, QString("Elkészült: %1 és %2").arg(added.text_file, added.picture));
   return 0;
 }
@@ -47,11 +88,12 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("cserko-szó"));
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral(
-      "Saját szót ad Cserkó szavaihoz, vagy átnézi a szavak mappáját.\n\n"
-      "Példa: cserko-szó --folder kepek --name alma --english apple --syllables al-ma --definition \"Kerek, ropogós "
-      "gyümölcs.\" --true \"Fán terem.\" --false \"Négy kereke van.\" --picture alma.svg"));
+      "Saját szót ad Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
+      "Példa: cserko-szó --name szamóca --english \"wild strawberry\" --syllables sza-mó-ca --definition \"Apró, piros "
+      "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.svg"));
   parser.addOptions(
-      {{"folder", QStringLiteral("A szavak mappája."), QStringLiteral("mappa")},
+      {{"folder", QStringLiteral("Ide írja a szót; enélkül oda, ahonnan ezen a gépen Cserkó olvas."),
+        QStringLiteral("mappa")},
        {"name", QStringLiteral("A szó magyarul."), QStringLiteral("szó")},
        {"english", QStringLiteral("A szó angolul."), QStringLiteral("szó")},
        {"syllables", QStringLiteral("A szó szótagolva, kötőjelekkel."), QStringLiteral("szó")},
@@ -59,11 +101,18 @@ int main(int argc, char** argv) {
        {"true", QStringLiteral("Igaz állítás a képről."), QStringLiteral("mondat")},
        {"false", QStringLiteral("Hamis állítás a képről."), QStringLiteral("mondat")},
        {"picture", QStringLiteral("A kép: SVG, PNG, JPEG vagy WMF."), QStringLiteral("fájl")},
-       {"check", QStringLiteral("Új szó helyett ezt a mappát nézi át."), QStringLiteral("mappa")}});
+       {"strict", QStringLiteral("Figyelmeztetés esetén sem írja ki a szót.")},
+       {"check", QStringLiteral("Új szó helyett átnézi Cserkó szavait vagy a megadott mappát.")}});
+  parser.addPositionalArgument("mappa", QStringLiteral("Csak a --check mellett: az átnézendő mappa."), "[mappa]");
   parser.addHelpOption();
   parser.process(application);
   try {
-    return parser.isSet("check") ? check_folder(parser.value("check")) : add(parser);
+    const QStringList folders = parser.positionalArguments();
+    if (folders.size() > (parser.isSet("check") ? 1 : 0)) {
+      say(stderr, wrong_use(QString("Fölösleges: %1.").arg(folders.last())));
+      return kWrongUse;
+    }
+    return parser.isSet("check") ? check(folders) : add(parser);
   } catch (const PackError& error) {
     say(stderr, error.what());
     return kRefused;

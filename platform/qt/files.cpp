@@ -115,6 +115,16 @@ QString QtFiles::real_path(const Text& path) const {
   return place.roots.isEmpty() ? QString() : place.roots.back() + '/' + place.below;
 }
 
+QStringList QtFiles::real_paths(const Text& path) const {
+  const Place place = place_of(path);
+  QStringList paths;
+  for (const QString& root : place.roots) {
+    const QString found = find_below(root, place.below);
+    paths << (found.isEmpty() ? root + '/' + place.below : found);
+  }
+  return paths;
+}
+
 std::vector<Text> QtFiles::list(const Text& pattern) const {
   const Place place = place_of(pattern);
   const qsizetype cut = place.below.lastIndexOf('/');

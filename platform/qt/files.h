@@ -29,6 +29,10 @@ class QtFiles : public Files {
   /// Empty for a path that leads out of the pack and the user's folder.
   QString real_path(const Text& path) const;
 
+  /// All real paths that a path of the suite may stand for, whether they exist or not: what is there in an earlier one
+  /// hides the later ones, and the first is the one that is written. None for a path that leads out.
+  QStringList real_paths(const Text& path) const;
+
   std::vector<Text> list(const Text& pattern) const override;
   bool exists(const Text& path) const override;
   std::optional<std::string> read(const Text& path) const override;

@@ -482,7 +482,12 @@ Size QtPlatform::chrome(const Window& window) const {
 // ---- Pictures, sound, chance ----
 
 PicturePtr QtPlatform::load_picture(const Text& path) {
-  const QString file = files_.real_path(path);
+  // Folder by folder: a picture of the user's own comes before the pack's of the same name, whatever it ends in.
+  const QStringList places = files_.real_paths(path);
+  const auto there =
+      std::find_if(places.begin(), places.end(), [](const QString& place) { return !picture_file(place).isEmpty(); });
+  if (there == places.end()) return nullptr;
+  const QString file = *there;
   const auto loaded = pictures_.picture(file);
   if (!loaded) return nullptr;
   const QSize size = loaded->natural_size();

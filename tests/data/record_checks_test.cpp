@@ -9,13 +9,28 @@
 namespace cserko {
 namespace {
 
-template<class Change> QStringList faults_with(Change change) {
+template<class Change> WordRecord changed(Change change) {
   WordRecord record = apple();
   change(record);
-  return record_faults(record);
+  return record;
+}
+template<class Change> QStringList faults_with(Change change) { return record_faults(changed(change)); }
+template<class Change> QStringList remarks_with(Change change) { return style_remarks(changed(change)); }
+
+TEST(RecordChecks, AWholeRecordHasNoFault) {
+  EXPECT_EQ(record_faults(apple()), QStringList());
+  EXPECT_EQ(style_remarks(apple()), QStringList());
 }
 
-TEST(RecordChecks, AWholeRecordHasNoFault) { EXPECT_EQ(record_faults(apple()), QStringList()); }
+TEST(RecordChecks, StyleIsNoFault) {
+  const auto clumsy = [](WordRecord& r) {
+    r.syllables = "a-lma";
+    r.definition = QStringLiteral("Alma.");
+    r.truth = r.falsehood = QStringLiteral("nem alma");
+  };
+  EXPECT_EQ(faults_with(clumsy), QStringList());
+  EXPECT_EQ(remarks_with(clumsy).size(), 9);
+}
 
 TEST(RecordChecks, EveryFieldMustBeFilledAndWritable) {
   for (QString WordRecord::*field : {&WordRecord::name, &WordRecord::english, &WordRecord::syllables,
@@ -34,16 +49,17 @@ TEST(RecordChecks, NamesAreMadeOfTheirAlphabets) {
 }
 
 TEST(RecordChecks, SentencesBeginAndEndAsSentencesDo) {
-  EXPECT_FALSE(faults_with([](WordRecord& r) { r.truth = QStringLiteral("piros héja van."); }).isEmpty());
-  EXPECT_FALSE(faults_with([](WordRecord& r) { r.truth = QStringLiteral("Piros héja van"); }).isEmpty());
-  EXPECT_FALSE(faults_with([](WordRecord& r) { r.truth = QStringLiteral("Piros."); }).isEmpty());
-  EXPECT_FALSE(faults_with([](WordRecord& r) { r.truth = "A" + QString(" b").repeated(20) + "."; }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) { r.truth = QStringLiteral("piros héja van."); }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) { r.truth = QStringLiteral("Piros héja van"); }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) { r.truth = QStringLiteral("Piros."); }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) { r.truth = "A" + QString(" b").repeated(20) + "."; }).isEmpty());
 }
 
 TEST(RecordChecks, TheFalseStatementIsMoreThanTheTrueOneDenied) {
-  EXPECT_FALSE(
-      faults_with([](WordRecord& r) { r.falsehood = QStringLiteral("Nem piros héja és zöld levele van."); }).isEmpty());
-  EXPECT_FALSE(faults_with([](WordRecord& r) { r.falsehood = r.truth; }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) {
+                 r.falsehood = QStringLiteral("Nem piros héja és zöld levele van.");
+               }).isEmpty());
+  EXPECT_FALSE(remarks_with([](WordRecord& r) { r.falsehood = r.truth; }).isEmpty());
 }
 
 TEST(RecordChecks, TheDefinitionDoesNotGiveTheWordAway) {
@@ -96,6 +112,7 @@ class Folder : public testing::Test {
             QStringLiteral("Nyáron érik a kertben."),
             QStringLiteral("Ugatva kergeti a macskát.")};
   }
+  Review review() { return folder_review({folder_.path()}); }
   QTemporaryDir folder_;
   const QByteArray square_ = "<path fill=\"#ff0000\" d=\"M8 8h16v16H8z\"/>";
   const QByteArray bar_ = "<path fill=\"#00ff00\" d=\"M8 12h16v8H8z\"/>";
@@ -104,25 +121,25 @@ class Folder : public testing::Test {
 TEST_F(Folder, OfWholeRecordsIsRight) {
   put_word(0, apple(), square_);
   put_word(1, pear(), bar_);
-  EXPECT_EQ(folder_faults(folder_.path()), QStringList());
+  EXPECT_EQ(review().all(), QStringList());
 }
 
 TEST_F(Folder, MustHaveNoGapNoTwinAndNoMissingPicture) {
   put_word(0, apple(), square_);
   put_word(2, pear(), bar_);
-  EXPECT_FALSE(folder_faults(folder_.path()).isEmpty());
+  EXPECT_FALSE(review().faults.isEmpty());
   put_word(1, apple(), "<path fill=\"#0000ff\" d=\"M8 8h16v16H8z\"/>");
-  const QStringList twins = folder_faults(folder_.path());
+  const QStringList twins = review().all();
   EXPECT_EQ(twins.size(), 2) << twins.join(" | ").toStdString(); // the name and the definition
   put_word(1,
            {"haj", "hair", "haj", QStringLiteral("A fejünkön nő, fésüljük."), QStringLiteral("Le lehet vágni ollóval."),
             QStringLiteral("Reggelire megisszuk teával.")},
            square_);
-  EXPECT_EQ(folder_faults(folder_.path()).size(), 1); // the picture
+  EXPECT_EQ(review().remarks.size(), 1); // the picture
   QFile::remove(folder_.filePath("1.wmf"));
-  EXPECT_EQ(folder_faults(folder_.path()).size(), 1); // none
+  EXPECT_EQ(review().faults.size(), 1); // none
   put("1.wmf", "no picture");
-  EXPECT_EQ(folder_faults(folder_.path()).size(), 1); // broken
+  EXPECT_EQ(review().faults.size(), 1); // broken
 }
 
 TEST_F(Folder, TakesAPhotoWhereThereIsNoMetafile) {
@@ -131,18 +148,31 @@ TEST_F(Folder, TakesAPhotoWhereThereIsNoMetafile) {
   QImage photo(20, 20, QImage::Format_RGB32);
   photo.fill(Qt::red);
   ASSERT_TRUE(photo.save(folder_.filePath("0.jpg")));
-  EXPECT_EQ(folder_faults(folder_.path()), QStringList());
+  EXPECT_EQ(review().all(), QStringList());
+}
+
+TEST_F(Folder, BehindAnotherIsReadOnFromIt) {
+  put_word(0, apple(), square_);
+  put("own/1.wms", record_bytes(pear()));
+  QImage photo(20, 20, QImage::Format_RGB32);
+  photo.fill(Qt::red);
+  ASSERT_TRUE(photo.save(folder_.filePath("own/1.jpg")));
+  const QString own = folder_.filePath("own");
+  EXPECT_EQ(folder_review({own, folder_.path()}).all(), QStringList());
+  EXPECT_FALSE(folder_review({own}).faults.isEmpty()); // alone it begins with a gap
+  put("own/1.wms", record_bytes(apple()));
+  EXPECT_EQ(folder_review({own, folder_.path()}).faults.size(), 1);
 }
 
 TEST_F(Folder, ThatIsAbsentOrEmptyIsAFault) {
-  EXPECT_FALSE(folder_faults(folder_.path()).isEmpty());
-  EXPECT_FALSE(folder_faults(folder_.filePath("absent")).isEmpty());
+  EXPECT_FALSE(review().faults.isEmpty());
+  EXPECT_FALSE(folder_review({folder_.filePath("absent")}).faults.isEmpty());
 }
 
 TEST_F(Folder, TellsOfATextCutShort) {
   put_word(0, apple(), square_);
   put("0.wms", "magyar\r\nalma\r\n");
-  EXPECT_EQ(folder_faults(folder_.path()).size(), 1);
+  EXPECT_EQ(review().faults.size(), 1);
 }
 
 } // namespace

@@ -234,6 +234,14 @@ TEST_F(RealFiles, AReadOnlyPackIsLeftAloneAndReadThroughTheUsersOwnFiles) {
   EXPECT_EQ(content(read_only.real_path(alma)), "a gyereké");
 }
 
+TEST_F(RealFiles, APathStandsForAPlaceInEachFolderTheFirstIsWritten) {
+  const QtFiles read_only(":/pack", user());
+  EXPECT_EQ(read_only.real_paths(u"c:\\cserko\\kepek\\cica.wms"),
+            QStringList({user() + "/alkalmazas/kepek/cica.wms", ":/pack/kepek/Cica.wms"}));
+  EXPECT_EQ(files->real_paths(u"c:\\cserko\\kepek"), QStringList(pack() + "/kepek"));
+  EXPECT_EQ(files->real_paths(u"c:\\cserko\\..\\..\\x"), QStringList());
+}
+
 TEST_F(RealFiles, ListingAReadOnlyPackTellsEachNameOnce) {
   QtFiles read_only(":/pack", user());
   read_only.write(u"c:\\cserko\\kepek\\ALMA.wms", "1");

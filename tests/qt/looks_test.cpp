@@ -195,6 +195,20 @@ TEST_F(Looks, AnErasedLineShowsTheTexturedGroundOfItsWindowAgain) {
   EXPECT_EQ(picture_of(window), before);
 }
 
+// A pack inside the program is read-only, so that the user's own records stand before it.
+TEST_F(Looks, APhotoOfTheUsersOwnIsFoundForARecordBesideAReadOnlyPack) {
+  machine.reset();
+  qputenv("CSERKO_PACK_DIR", ":/pack");
+  machine = std::make_unique<QtPlatform>();
+  const QString own = qEnvironmentVariable("CSERKO_USER_DIR") + "/alkalmazas/kepek";
+  QDir().mkpath(own);
+  EXPECT_EQ(machine->load_picture(u"c:\\cserko\\kepek\\5.wmf"), nullptr);
+  ASSERT_TRUE(QImage(8, 4, QImage::Format_RGB32).save(own + "/5.png"));
+  const PicturePtr picture = machine->load_picture(u"c:\\cserko\\kepek\\5.wmf");
+  ASSERT_NE(picture, nullptr);
+  EXPECT_EQ(picture->natural_size().width, 8 * twips_per_pixel);
+}
+
 TEST_F(Looks, LaterElementsLieOnTopOfEarlierOnes) {
   NotingWindow window(*machine);
   Label below(window, u"lbl_a", {300, 300, 900, 900});
