@@ -16,6 +16,12 @@ bool Exceptions::excuse(const QStringList& cells) {
   return true;
 }
 
+std::vector<QStringList> Exceptions::rows() const {
+  std::vector<QStringList> rows;
+  for (const auto& [key, reason] : reasons_) rows.push_back(key.split('\t'));
+  return rows;
+}
+
 QStringList Exceptions::faults() const {
   QStringList faults;
   for (const auto& [key, reason] : reasons_) {

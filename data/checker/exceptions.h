@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 #include <map>
+#include <vector>
 
 namespace cserko {
 
@@ -16,6 +17,9 @@ class Exceptions {
 
   /// Whether the list excuses these cells; notes that the entry is needed.
   bool excuse(const QStringList& cells);
+
+  /// The cells of all entries without their reasons.
+  std::vector<QStringList> rows() const;
 
   /// Entries that excused nothing so far, or have no reason.
   QStringList faults() const;

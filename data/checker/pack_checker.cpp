@@ -2,6 +2,8 @@
 #include "data/checker/exercise_check.h"
 #include "data/checker/language_checks.h"
 #include "data/checker/report.h"
+#include "data/checker/suspicious_pairs.h"
+#include "data/pack/picture.h"
 #include "data/pack/record_checks.h"
 #include "data/pack/table.h"
 
@@ -16,6 +18,7 @@ namespace {
 
 constexpr int kFewestRecords = 500;
 constexpr int kPairLines = 31;
+constexpr int kPairPictureSide = 160; // pixels, before they are drawn together
 constexpr int kFewestPraisePictures = 20, kFewestPages = 20, kFewestMotifs = 12;
 constexpr double kMostSameOpening = 0.08; // share of the sentences of one kind that may begin with the same word
 
@@ -97,6 +100,17 @@ QStringList part_faults(const QString& pack_folder, const Pack& pack) {
   return faults;
 }
 
+// Pairs that a child could mix up, as words and as pictures.
+QStringList pair_faults(const std::vector<WordRecord>& records, const QString& folder, Exceptions& excused) {
+  std::vector<QImage> pictures;
+  pictures.reserve(records.size());
+  for (size_t i = 0; i < records.size(); ++i) {
+    const QString path = QString("%1/%2.wmf").arg(folder).arg(i);
+    pictures.push_back(QFile::exists(path) ? draw_metafile(read_file(path), kPairPictureSide) : QImage());
+  }
+  return suspicious_definitions(records, excused) + suspicious_pictures(records, pictures, excused);
+}
+
 struct Paths {
   QString pack, table, exceptions, report;
   DictionaryPaths dictionaries;
@@ -106,6 +120,7 @@ QStringList check(const Paths& paths) {
   Exceptions spelling(paths.exceptions + "/spelling.tsv", {"language", "word"});
   Exceptions syllables(paths.exceptions + "/syllables.tsv", {"syllables"});
   Exceptions settings(paths.exceptions + "/settings.tsv", {"window", "setting"});
+  Exceptions pairs(paths.exceptions + "/pairs.tsv", {"kind", "names"});
   const std::vector<WordRecord> records = table_records(paths.table);
   const Pack pack = read_pack(paths.pack);
   QStringList faults;
@@ -116,14 +131,15 @@ QStringList check(const Paths& paths) {
   faults += name_faults(records) + opening_faults(records);
   faults += spelling_faults(records, paths.dictionaries, spelling);
   faults += syllable_faults(records, paths.dictionaries, syllables);
+  faults += pair_faults(records, paths.pack + "/kepek", pairs);
   faults += part_faults(paths.pack, pack);
   const std::vector<ExerciseFilter> filters = exercise_filters(pack);
   std::vector<ExerciseOutcome> outcomes;
   outcomes.reserve(filters.size());
   for (const ExerciseFilter& filter : filters) outcomes.push_back(count_combinations(filter));
   for (const ExerciseOutcome& outcome : outcomes) faults += unplayable(outcome, settings);
-  faults += spelling.faults() + syllables.faults() + settings.faults();
-  const QString report = pack_report(paths.pack, pack, outcomes, {&spelling, &syllables, &settings});
+  faults += spelling.faults() + syllables.faults() + settings.faults() + pairs.faults();
+  const QString report = pack_report(paths.pack, pack, outcomes, {&spelling, &syllables, &settings, &pairs});
   std::fputs(summary_of(report).toUtf8().constData(), stdout);
   if (!paths.report.isEmpty()) write_if_changed(paths.report, report.toUtf8());
   return faults;

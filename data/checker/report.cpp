@@ -100,7 +100,10 @@ QString pack_report(const QString& pack_folder, const Pack& pack, const std::vec
          exceptions.spelling->as_rows() + "\nSyllables:\n\n| Syllables | Reason |\n|---|---|\n" +
          exceptions.syllables->as_rows() +
          "\nSettings that cannot be served:\n\n| Window | Setting | Reason |\n|---|---|---|\n" +
-         exceptions.settings->as_rows();
+         exceptions.settings->as_rows() +
+         "\nPairs that look or read alike and can be told apart:\n\n| What is alike | Names | Reason "
+         "|\n|---|---|---|\n" +
+         exceptions.pairs->as_rows();
 }
 
 QString summary_of(const QString& report) { return report.left(report.indexOf(edges_title)) + "\n"; }

@@ -10,6 +10,7 @@ struct ReportExceptions {
   const Exceptions* spelling;
   const Exceptions* syllables;
   const Exceptions* settings;
+  const Exceptions* pairs;
 };
 
 /// The whole page in Markdown.

@@ -36,7 +36,7 @@ QByteArray IconSet::svg(const QString& name) const {
 }
 
 QString refusal_of_svg(const QString& svg, QSize whole_view) {
-  static const QRegularExpression forbidden("opacity|Gradient|<mask|<filter|<image|<pattern|<text");
+  static const QRegularExpression forbidden("<mask|<filter|<image|<pattern|<text");
   if (const auto match = forbidden.match(svg); match.hasMatch())
     return QString("uses \"%1\", which solid fills cannot draw").arg(match.captured());
   static const QRegularExpression clip_path("<clipPath[^>]*>(.*?)</clipPath>");

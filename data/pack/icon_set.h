@@ -25,8 +25,8 @@ class IconSet {
   QHash<QString, Icon> icons_;
 };
 
-/// Why an SVG text cannot be drawn with solid fills alone (opacity, gradient, mask, filter, embedded image, a clip path
-/// that cuts); empty when it can.
+/// Why solid fills cannot stand for an SVG text (a mask, a filter, an embedded image, a clip path that cuts); empty
+/// when they can.
 QString refusal_of_svg(const QString& svg, QSize whole_view);
 
 } // namespace cserko

@@ -10,7 +10,8 @@
 namespace cserko {
 
 /// Paint on it with a QPainter over the square 0..kMetafileSide, then take the shapes. Only opaque solid colours can be
-/// kept; the first thing painted with anything else is told by `refusal()`.
+/// kept. A translucent colour becomes the one that it makes with what lies under it, or with white paper; a linear or
+/// radial gradient becomes a few bands. The first thing painted with anything else is told by `refusal()`.
 class MetafileDevice : public QPaintDevice {
  public:
   MetafileDevice();
@@ -23,6 +24,8 @@ class MetafileDevice : public QPaintDevice {
   QRect bounds() const;
   /// Why the picture cannot be kept; empty when all is well.
   QString refusal() const;
+  /// Whether a gradient was cut into bands, so that the picture is less than what was painted.
+  bool banded() const;
 
  protected:
   int metric(PaintDeviceMetric metric) const override;

@@ -69,6 +69,14 @@ std::vector<FilledShape> SquarePicture::shapes() {
   return device.shapes();
 }
 
+bool SquarePicture::banded() {
+  MetafileDevice device;
+  QPainter painter(&device);
+  paint(painter, kMetafileSide);
+  painter.end();
+  return device.banded();
+}
+
 QByteArray SquarePicture::metafile() { return write_metafile(shapes()); }
 
 QImage SquarePicture::image(int side) {

@@ -17,11 +17,15 @@ class SquarePicture {
   /// cannot be read or drawn, or when its drawing leaves its own view box.
   explicit SquarePicture(const QByteArray& svg, const QTransform& turn = {});
 
-  /// The picture as solid polygons on the square. Throws PackError when it is not made of solid fills.
+  /// The picture as solid polygons on the square: a translucent colour mixed with its ground, a gradient in bands.
+  /// Throws PackError when it holds anything that solid fills cannot stand for.
   std::vector<FilledShape> shapes();
 
-  /// The picture as a metafile of solid polygons. Throws PackError when it is not made of solid fills.
+  /// The same as a metafile. Throws PackError as above.
   QByteArray metafile();
+
+  /// Whether solid polygons only come near the picture, since it has gradients.
+  bool banded();
 
   /// The picture as the SVG renderer draws it, on white.
   QImage image(int side);

@@ -165,6 +165,12 @@ bool names_itself(const QString& name, const QString& text) {
   return false;
 }
 
+bool is_form_of(const QString& name, const QString& word) {
+  for (const QString& stem : stems_of(name.toLower()))
+    if (word.startsWith(stem) && common_ending(word.mid(stem.size()))) return true;
+  return false;
+}
+
 QStringList record_faults(const WordRecord& record) {
   QStringList faults;
   check_characters("A magyar név", record.name, faults);

@@ -34,6 +34,10 @@ bool one_vowel_each(const QString& syllables);
 /// Whether a text gives the name away: one of its words begins with the name or its stem.
 bool names_itself(const QString& name, const QString& text);
 
+/// Whether a word in small letters is the name itself, with one of the common endings or none: almát is a form of alma,
+/// almafa is not.
+bool is_form_of(const QString& name, const QString& word);
+
 /// Looks through folders of records that are read as one (see RecordFolders). Faults: gaps in the numbers, a text
 /// without picture or the reverse, broken pictures, faults of single records, names that occur twice. Remarks:
 /// definitions or pictures that occur twice, and the style of single records. Each with the file in front.

@@ -41,6 +41,7 @@ QByteArray encoded(const QImage& image, const char* format) {
 PictureFile from_svg(const QByteArray& svg) {
   try {
     SquarePicture picture(svg);
+    if (picture.banded()) throw PackError("gradients are smooth in pixels alone");
     return {proved_metafile(picture, "kép"), ".wmf"};
   } catch (const PackError&) {
     QSvgRenderer renderer(svg);

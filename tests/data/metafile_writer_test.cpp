@@ -132,7 +132,97 @@ TEST(MetafileDevice, KeepsThePathsOwnFillRule) {
   EXPECT_EQ(device.shapes()[1].rule, FillRule::odd_even);
 }
 
-TEST(MetafileDevice, RefusesWhatIsNotAnOpaqueSolidColor) {
+// What is painted, as the solid shapes that it becomes.
+template<class Paint> std::vector<FilledShape> shapes_of(Paint paint) {
+  MetafileDevice device;
+  QPainter painter(&device);
+  paint(painter);
+  painter.end();
+  EXPECT_EQ(device.refusal(), "");
+  return device.shapes();
+}
+
+TEST(MetafileDevice, MixesATranslucentColourWithWhitePaper) {
+  const auto shapes = shapes_of([](QPainter& p) { p.fillRect(QRectF(0, 0, 90, 90), QColor(255, 0, 0, 102)); });
+  ASSERT_EQ(shapes.size(), 1U);
+  EXPECT_EQ(shapes[0].color, qRgb(255, 153, 153));
+}
+
+TEST(MetafileDevice, MixesWithTheHighestThingUnderIt) {
+  const auto shapes = shapes_of([](QPainter& p) {
+    p.fillRect(QRectF(0, 0, 500, 500), Qt::blue);
+    p.fillRect(QRectF(0, 0, 300, 300), Qt::black);
+    p.setOpacity(0.6);
+    p.fillRect(QRectF(100, 100, 100, 100), Qt::red);
+  });
+  ASSERT_EQ(shapes.size(), 3U); // neither blue nor paper can be seen through it
+  EXPECT_EQ(shapes[2].color, qRgb(153, 0, 0));
+}
+
+TEST(MetafileDevice, MixesOnceForEachThingThatLiesUnderIt) {
+  const auto shapes = shapes_of([](QPainter& p) {
+    p.fillRect(QRectF(0, 0, 200, 200), Qt::black);
+    p.fillRect(QRectF(1000, 1000, 200, 200), Qt::blue);
+    p.fillRect(QRectF(100, 100, 200, 50), QColor(255, 0, 0, 102));
+  });
+  ASSERT_EQ(shapes.size(), 4U);
+  EXPECT_EQ(shapes[2].color, qRgb(255, 153, 153));
+  EXPECT_EQ(shapes[3].color, qRgb(102, 0, 0));
+  QRect over_black;
+  for (const QPoint point : shapes[3].polygons[0]) over_black |= QRect(point, QSize(1, 1));
+  EXPECT_EQ(over_black.topLeft(), QPoint(100, 100));
+  EXPECT_NEAR(over_black.width(), 100, 2);
+}
+
+TEST(MetafileDevice, CutsAGradientIntoBandsFromItsBeginningToItsEnd) {
+  constexpr double side = kMetafileSide;
+  QLinearGradient straight(0, 0, side, 0);
+  QRadialGradient round(side / 2, side / 2, side / 2);
+  for (QGradient* gradient : {static_cast<QGradient*>(&straight), static_cast<QGradient*>(&round)}) {
+    gradient->setColorAt(0, Qt::black);
+    gradient->setColorAt(1, Qt::white);
+    const auto shapes = shapes_of([&](QPainter& p) { p.fillRect(QRectF(0, 0, side, side), *gradient); });
+    ASSERT_EQ(shapes.size(), 12U);
+    for (size_t i = 1; i < shapes.size(); ++i) EXPECT_GT(qRed(shapes[i].color), qRed(shapes[i - 1].color));
+    EXPECT_LT(qRed(shapes.front().color), 20);
+    EXPECT_GT(qRed(shapes.back().color), 235);
+  }
+}
+
+TEST(MetafileDevice, KeepsFewBandsOfASmallThingAndNoneThatAreHidden) {
+  QLinearGradient gradient(0, 0, 100, 0);
+  const QRectF small(0, 0, 100, 100);
+  EXPECT_EQ(shapes_of([&](QPainter& p) { p.fillRect(small, gradient); }).size(), 2U);
+  const auto covered = shapes_of([&](QPainter& p) {
+    p.fillRect(small, gradient);
+    p.fillRect(small, Qt::red);
+  });
+  ASSERT_EQ(covered.size(), 1U);
+  EXPECT_EQ(covered[0].color, qRgb(255, 0, 0));
+}
+
+TEST(MetafileDevice, TellsOfBands) {
+  SquarePicture solid(red_square());
+  EXPECT_FALSE(solid.banded());
+  SquarePicture gradient(
+      svg("<defs><linearGradient id=\"g\"><stop offset=\"0\" stop-color=\"#f00\"/><stop offset=\"1\" "
+          "stop-color=\"#00f\"/></linearGradient></defs><path fill=\"url(#g)\" d=\"M8 8h16v16H8z\"/>"));
+  EXPECT_TRUE(gradient.banded());
+}
+
+TEST(SquarePicture, OfTranslucentAndGraduatedFillsIsNearlyTheSameThroughTheMetafile) {
+  SquarePicture picture(
+      svg("<defs><linearGradient id=\"g\"><stop offset=\"0\" stop-color=\"#f80\"/><stop offset=\"1\" "
+          "stop-color=\"#08f\"/></linearGradient><radialGradient id=\"r\" cx=\"10\" cy=\"10\" r=\"6\" "
+          "gradientUnits=\"userSpaceOnUse\"><stop offset=\"0\" stop-color=\"#fff\"/><stop offset=\"1\" "
+          "stop-color=\"#080\" stop-opacity=\"0\"/></radialGradient></defs><path fill=\"url(#g)\" d=\"M4 4h24v24H4z\"/>"
+          "<circle cx=\"10\" cy=\"10\" r=\"6\" fill=\"url(#r)\"/>"
+          "<circle cx=\"20\" cy=\"20\" r=\"6\" fill=\"#000\" opacity=\".4\"/>"
+          "<path fill=\"#f00\" opacity=\".5\" d=\"M24 2h6v20h-6z\"/>"));
+  EXPECT_NO_THROW(proved_metafile(picture, "test"));
+}
+
+TEST(MetafileDevice, RefusesWhatSolidColoursCannotStandFor) {
   const auto refusal = [](const std::function<void(QPainter&)>& paint) {
     MetafileDevice device;
     QPainter painter(&device);
@@ -141,8 +231,8 @@ TEST(MetafileDevice, RefusesWhatIsNotAnOpaqueSolidColor) {
     return device.refusal();
   };
   EXPECT_EQ(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 9, 9), Qt::red); }), "");
-  EXPECT_NE(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 9, 9), QColor(255, 0, 0, 100)); }), "");
-  EXPECT_NE(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 9, 9), QLinearGradient(0, 0, 9, 9)); }), "");
+  EXPECT_NE(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 9, 9), QConicalGradient(4, 4, 0)); }), "");
+  EXPECT_NE(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 9, 9), Qt::Dense4Pattern); }), "");
   EXPECT_NE(refusal([](QPainter& p) { p.drawImage(0, 0, QImage(4, 4, QImage::Format_RGB32)); }), "");
   EXPECT_NE(refusal([](QPainter& p) { p.fillRect(QRectF(0, 0, 99999, 9), Qt::red); }), "");
 }
