@@ -59,7 +59,6 @@ class frmverem : public ExerciseWindow {
 
   void Load() override;
   void KeyDown(KeyEvent& event) override;
-  void KeyUp(KeyEvent& event) override;
   void MouseMove(const MouseEvent& event) override;
   void QueryUnload(bool& cancel) override;
   void Unload() override;
@@ -157,7 +156,6 @@ class frmverem : public ExerciseWindow {
   bool busy_ = false;        ///< A deed is done; its slides let events through.
   std::deque<Deed> waiting_; ///< What the child has done meanwhile.
   bool picture_due_ = false; ///< The timer has ticked meanwhile.
-  int held_key_ = 0;         ///< The key that went down last and has not come up.
   int left_slot_ = -1;       ///< The picture that had the focus before.
   std::optional<Drag> drag_;
   Gesture gesture_;

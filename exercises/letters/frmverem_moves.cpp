@@ -61,18 +61,14 @@ void frmverem::in_turn(Deed deed) {
 void frmverem::KeyDown(KeyEvent& event) {
   const int code = event.code;
   const int shift_mask = event.shift;
-  const bool repeats = std::exchange(held_key_, code) == code;
+  const bool repeats = event.repeated;
   const bool opens_picture = code == key::enter && focus() != nullptr && focus()->kind() == ElementKind::PictureBox;
   if (is_game_key(code) || opens_picture) event.code = 0;
   // Of a key that is held down one waits at most, or the letters would go on moving behind its release.
   const bool one_waits = std::any_of(waiting_.begin(), waiting_.end(),
                                      [&](const Deed& deed) { return deed.key == code && deed.shift == shift_mask; });
-  if (repeats && one_waits) return;
+  if (repeats && (one_waits || opens_picture)) return;
   in_turn({[this, code, shift_mask] { key_pressed(code, shift_mask); }, code, shift_mask});
-}
-
-void frmverem::KeyUp(KeyEvent& event) {
-  if (event.code == held_key_) held_key_ = 0;
 }
 
 void frmverem::key_pressed(int code, int shift_mask) {

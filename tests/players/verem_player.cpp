@@ -1,5 +1,7 @@
 #include "tests/players/verem_player.h"
 
+#include "tests/players/played_exercise.h"
+
 #include <cstdlib>
 
 namespace cserko {
@@ -143,5 +145,30 @@ std::optional<VeremPlayer::Move> VeremPlayer::bury(const frmverem& game, const T
   }
   return std::nullopt;
 }
+
+namespace {
+
+// Five pictures, a second to look at a solved word, and time enough between two new pictures.
+void prepare(Files& files) {
+  files.make_folder(u"c:\\pomzu");
+  files.make_folder(u"c:\\pomzu\\cserko");
+  files.write(u"c:\\pomzu\\cserko\\verem.ini", " 8 \r\n 5 \r\n 5 \r\n 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
+}
+
+// A game is one task: it is well begun when a picture is gone.
+int gathered(Window& window, const Player&) {
+  int pictures = 0;
+  dynamic_cast<frmverem&>(window).kép.each([&](const PictureBox& slot) { pictures += slot.Visible ? 1 : 0; });
+  return pictures < 5 ? 1 : 0;
+}
+
+const Played played{{.name = "winder",
+                     .window = u"frmverem",
+                     .tasks = 1,
+                     .make = make_player<VeremPlayer>,
+                     .gathered = gathered,
+                     .prepare = prepare}};
+
+} // namespace
 
 } // namespace cserko
