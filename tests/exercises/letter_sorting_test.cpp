@@ -76,8 +76,8 @@ TEST_F(LetterSortingTest, WordsOfBothLettersOfNeitherTooLongOnesAndThoseDrawnAlr
   put_settings(file_name, {u" 0 ", u" 3 ", u"True", u"False", u" 0 ", u" 11 "});
   start();
   script_pair(0);
-  for (const int index : {0, 12 /* both */, 13 /* neither */, 14 /* twelve letters */, 0, 6 /* the other's */, 1, 2,
-                          3, 4, 15 /* the last record */, 0 /* the other's */, 6, 7, 8, 9, 10, 11})
+  for (const int index : {0, 12 /* both */, 13 /* neither */, 14 /* twelve letters */, 0, 6 /* the other's */, 1, 2, 3,
+                          4, 15 /* the last record */, 0 /* the other's */, 6, 7, 8, 9, 10, 11})
     script_word(index);
   script_place(0);
   const auto& window = open<frm_betűválogatás>();

@@ -187,6 +187,7 @@ TEST_F(LetterViewerChoiceTest, IsPlayedByKeysAlone) {
   ASSERT_EQ(w.focus(), &w.választáskép[0]);
   then_in<üzenet>([&](üzenet& panel) {
     EXPECT_EQ(panel.üzenet_szöveg.Caption, w.választáskép[0].ToolTipText);
+    machine.advance(panel.KeyPause);
     hand::key(panel, key::enter);
   });
   hand::key(w, key::enter, shift::control);

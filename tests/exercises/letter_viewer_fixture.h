@@ -57,9 +57,10 @@ class LetterViewerFixture : public ExerciseTest {
   }
   frm_betűnézegető& look() { return look(Choices()); }
 
-  /// A key that types that character, on whatever keyboard.
+  static constexpr int layout_key = 226;
+  /// A key that types that character on whatever keyboard: its code is that of no letter.
   static void type(frm_betűnézegető& window, char16_t character, int shift = shift::none) {
-    input::key_down(window, {.code = 0, .shift = shift, .character = character});
+    input::key_down(window, {.code = layout_key, .shift = shift, .character = character});
   }
   static std::string word(const frm_betűnézegető& window) {
     std::string all;
