@@ -106,6 +106,7 @@ frm_betűnézegető::frm_betűnézegető(Session& session)
   kép.Border = true;
   kép.Tag = u"-1";
   lbl_feladat.Visible = false;
+  lbl_feladat.WordWrap = false;
   Label_kisbetű.Choosable = true;
   Label_nagybetű.Choosable = true;
   letter_tile[0].Visible = false;

@@ -80,6 +80,10 @@ int contrast(const QImage& image, QRect place) {
   return 255 - end(shades.rbegin(), shades.rend()) - end(shades.begin(), shades.end());
 }
 
+bool is_blank(const QImage& image, QRect place) {
+  return contrast(image, place) < faintest_window || of_one_shade(image, place);
+}
+
 Photograph::Photograph(QImage image, QPoint client_corner, double zoom)
     : image_(std::move(image)), corner_(client_corner), zoom_(zoom) {}
 
@@ -94,8 +98,7 @@ std::vector<std::string> Photograph::faults(const Window& window) const {
   std::vector<std::string> found;
   const QRect client(
       corner_, QSize(static_cast<int>(window.inner_width() * zoom_), static_cast<int>(window.inner_height() * zoom_)));
-  if (contrast(image_, client) < faintest_window || of_one_shade(image_, client))
-    found.push_back(to_utf8(window.Name) + ": the window is blank");
+  if (is_blank(image_, client)) found.push_back(to_utf8(window.Name) + ": the window is blank");
   for (const Element* element : window.elements()) {
     if (shows_text(*element) && contrast(image_, place_of(*element)) < faintest_text)
       found.push_back(to_utf8(window.Name) + ": the text of " + name_of(*element) + " cannot be seen");

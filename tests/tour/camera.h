@@ -33,4 +33,7 @@ class Photograph {
 /// The difference between the lightest and the darkest of all but a few pixels of a place, 0 to 255.
 int contrast(const QImage& image, QRect place);
 
+/// Whether nothing has been painted at a place: nearly all of it is of one shade.
+bool is_blank(const QImage& image, QRect place);
+
 } // namespace cserko::tour

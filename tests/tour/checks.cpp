@@ -70,7 +70,9 @@ class Inspector {
                          element.Left + element.Width > room.width + tolerance ||
                          element.Top + element.Height > room.height + tolerance;
     if (outside) fault(name_of(element) + " reaches outside its container");
-    if (element.Width < tolerance || element.Height < tolerance) fault(name_of(element) + " has no extent");
+    // A straight line may be as thin as it likes, and one that is not drawn yet has no place at all.
+    const bool flat = element.Width < tolerance || element.Height < tolerance;
+    if (flat && element.kind() != ElementKind::Line) fault(name_of(element) + " has no extent");
   }
 
   void require_room(const Element& element, Size text, Size room) {

@@ -98,6 +98,7 @@ void colour_a_page(Guide& guide, Visit& visit) {
 } // namespace
 
 void lay_out_drawing(Guide& guide) {
+  guide.for_help("drawing-filled", "drawing");
   Visit visit(guide);
   guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
   draw_with_tools(visit);

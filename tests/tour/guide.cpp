@@ -11,8 +11,9 @@ namespace cserko::tour {
 
 namespace {
 
-constexpr int pace = 20;        // ms between two looks at the screen
-constexpr int patience = 20000; // ms until a stop counts as never reached
+constexpr int pace = 20;            // ms between two looks at the screen
+constexpr int painting_time = 3000; // ms that a window may stay blank
+constexpr int patience = 20000;     // ms until a stop counts as never reached
 
 } // namespace
 
@@ -52,7 +53,9 @@ bool Guide::stands_still(Window& window) {
   const QImage seen = take_picture(*platform_.view_of(window));
   const bool still = seen == last_seen_;
   last_seen_ = seen;
-  return still;
+  // A window that has just come up may stand on the screen a while before it is painted.
+  const bool unpainted = waiting_.elapsed() < painting_time && is_blank(seen, seen.rect());
+  return still && !unpainted;
 }
 
 void Guide::look_at(Window& window, const std::string& name) {

@@ -104,6 +104,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.intended.push_back({u"frm_betűválogatás", u"kép", u"eredményképnév"});
   guide.intended.push_back({u"frm_betűválogatás", u"kép", u"betű"});
   guide.for_help("letter-sorting-three-results", "letter_sorting");
+  guide.for_help("letter-sorting-settings", "letter_sorting_settings");
   guide.for_help("direction-panel", "direction_panel", 422);
   visit.open();
   visit.look_at_focus(1);

@@ -51,6 +51,8 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   // A word stands right under its picture, which the design lets overlap the row by one pixel.
   guide.intended.push_back({u"frm_betűnézegető", u"Label_betű", u"kép"});
   guide.intended.push_back({u"frm_betűnézegető", u"kép", u"választáskép"});
+  // The design lays the small pictures against the task line.
+  guide.intended.push_back({u"frm_betűnézegető", u"választáskép", u"lbl_feladat"});
   guide.for_help("letter-viewer-digraph", "letter_viewer", 562);
   visit.open();
   visit.look_at_focus();
