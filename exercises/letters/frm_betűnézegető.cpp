@@ -156,6 +156,8 @@ void frm_betűnézegető::arrange() {
   ablak_méretezés(*this, 0.95);
   lay_out_tiles();
   szöveg_illesztés(lbl_feladat, Text(task));
+  // The one step by which fitting overfills may be too much for so long a line.
+  if (platform().measure(lbl_feladat.Font, task).width > lbl_feladat.Width) lbl_feladat.Font.size -= 1;
   if (!Label_kisbetű.Caption.empty()) betűméret_illesztése();
   if (const Text word = row_.text(); !word.empty()) szó_kiírása(word);
   ablak_középre(session(), *this);

@@ -145,7 +145,14 @@ TEST_F(BuiltPackTest, HasEveryHelpPageThatTheSuiteAsksFor) {
 }
 
 class EachExerciseOnThePack : public BuiltPackTest, public ::testing::WithParamInterface<PlayedExercise> {};
-INSTANTIATE_TEST_SUITE_P(Played, EachExerciseOnThePack, ::testing::ValuesIn(played_exercises()),
+// The letter viewer asks nothing with its factory settings; it is played above.
+std::vector<PlayedExercise> asking_exercises() {
+  std::vector<PlayedExercise> exercises = played_exercises();
+  std::erase_if(exercises, [](const PlayedExercise& exercise) { return exercise.window == u"frm_betűnézegető"; });
+  return exercises;
+}
+
+INSTANTIATE_TEST_SUITE_P(Played, EachExerciseOnThePack, ::testing::ValuesIn(asking_exercises()),
                          [](const auto& tested) { return std::string(tested.param.name); });
 
 TEST_P(EachExerciseOnThePack, IsSolvedSetAfterSetWithTheFactorySettings) {
