@@ -260,13 +260,13 @@ void fit_printed(PictureBox& box, const Text& text, double smallest_line) {
   Text best;
   double best_size = box.Font.size;
   Font font = box.Font;
-  for (double size = best_size + 1; size <= largest_font; ++size) {
-    font.size = size;
+  while (font.size < largest_font) {
+    font.size += 1;
     Text lines = broken_into_lines(platform, font, text, limits.width);
     const Size extent = platform.measure(font, lines);
     if (extent.width > limits.width || extent.height > limits.height) break;
     best = std::move(lines);
-    best_size = size;
+    best_size = font.size;
   }
   if (best.empty()) return;
   box.canvas().clear();

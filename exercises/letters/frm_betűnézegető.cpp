@@ -181,8 +181,8 @@ void frm_betűnézegető::lay_out_tiles() {
       first_overfilling_size(platform(), first.Font, u"dzs", {0.85 * first.Width, 0.85 * first.Height}) - 1;
   for (int i = 0; i < static_cast<int>(letters.size()); ++i) {
     Label& tile = i == 0 ? first : letter_tile.load(i);
-    tile.move_to(tile_area.left * scale + i % columns * first.Width,
-                 tile_area.top * scale + i / columns * first.Height);
+    const int row = i / columns;
+    tile.move_to(tile_area.left * scale + i % columns * first.Width, tile_area.top * scale + row * first.Height);
     tile.Caption = letters[static_cast<std::size_t>(i)];
     tile.Visible = true;
   }

@@ -96,7 +96,8 @@ void frmverem::make_cells() {
   const Label& first = betű[0];
   for (int index = 1; index < columns * rows; ++index) {
     Label& made = betű.load(index);
-    made.move_to(first.Left + index % columns * first.Width, first.Top + index / columns * first.Height);
+    const int row = index / columns;
+    made.move_to(first.Left + index % columns * first.Width, first.Top + row * first.Height);
     made.Visible = true;
   }
 }
@@ -108,7 +109,8 @@ void frmverem::place_slots() {
   for (int i = 0; i < slots; ++i) {
     PictureBox& picture = i == 0 ? kép[0] : kép.load(i);
     Label& name = i == 0 ? képnév[0] : képnév.load(i);
-    picture.move_to(left + i % slot_columns * picture.Width, top + i / slot_columns * (picture.Height + name.Height));
+    const int row = i / slot_columns;
+    picture.move_to(left + i % slot_columns * picture.Width, top + row * (picture.Height + name.Height));
     name.move_to(picture.Left, picture.Top + picture.Height);
   }
 }

@@ -54,7 +54,8 @@ class UndoStore {
   };
 
   std::size_t tile_of(int column, int row) const {
-    return static_cast<std::size_t>(row / tile_side * tiles_across_ + column / tile_side);
+    return static_cast<std::size_t>(row / tile_side) * static_cast<std::size_t>(tiles_across_) +
+           static_cast<std::size_t>(column / tile_side);
   }
   GridRect place_of(std::size_t tile) const;
   void keep_tile(const PixelGrid& grid, std::size_t tile);

@@ -8,7 +8,7 @@ namespace {
 
 template<class T> std::optional<T> next(std::deque<std::optional<T>>& answers) {
   if (answers.empty()) return std::nullopt;
-  const std::optional<T> answer = answers.front();
+  std::optional<T> answer = answers.front();
   answers.pop_front();
   return answer;
 }
