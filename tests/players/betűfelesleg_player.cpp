@@ -48,15 +48,13 @@ void BetűfeleslegPlayer::answer_wrong(frm_betűfelesleg& exercise, const std::v
 
 namespace {
 
-const Played played{
-    {.name = "surplus_letter",
-     .window = u"frm_betűfelesleg",
-     .tasks = 6,
-     .make = make_player<BetűfeleslegPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_betűfelesleg&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds}};
+const Played played{{.name = "surplus_letter",
+                     .window = u"frm_betűfelesleg",
+                     .tasks = 6,
+                     .make = make_player<BetűfeleslegPlayer>,
+                     .gathered = gathered_on_strip<frm_betűfelesleg>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds}};
 
 } // namespace
 

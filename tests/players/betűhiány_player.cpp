@@ -143,15 +143,13 @@ void BetűhiányPlayer::answer(frm_betűhiány& exercise, Hand& hand) const {
 
 namespace {
 
-const Played played{
-    {.name = "missing_letter",
-     .window = u"frm_betűhiány",
-     .tasks = 6,
-     .make = make_player<BetűhiányPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_betűhiány&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds}};
+const Played played{{.name = "missing_letter",
+                     .window = u"frm_betűhiány",
+                     .tasks = 6,
+                     .make = make_player<BetűhiányPlayer>,
+                     .gathered = gathered_on_strip<frm_betűhiány>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds}};
 
 } // namespace
 

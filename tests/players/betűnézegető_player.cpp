@@ -63,10 +63,8 @@ const Played played{{.name = "letter_viewer",
                      .prepare =
                          [](Files& files) {
                            // The reading check is on.
-                           files.make_folder(u"c:\\pomzu");
-                           files.make_folder(u"c:\\pomzu\\cserko");
-                           files.write(u"c:\\pomzu\\cserko\\betűnézegető.ini",
-                                       " 12 \r\n 0 \r\n 1 \r\nFalse\r\nTrue\r\n 0 \r\nTrue\r\nFalse\r\n");
+                           write_user_settings(files, u"betűnézegető.ini",
+                                               " 12 \r\n 0 \r\n 1 \r\nFalse\r\nTrue\r\n 0 \r\nTrue\r\nFalse\r\n");
                          }}};
 
 } // namespace

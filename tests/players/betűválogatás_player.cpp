@@ -63,10 +63,8 @@ const Played played{{.name = "letter_sorting",
                      .prepare =
                          [](Files& files) {
                            // Flights of ten frames, words of every length.
-                           files.make_folder(u"c:\\pomzu");
-                           files.make_folder(u"c:\\pomzu\\cserko");
-                           files.write(u"c:\\pomzu\\cserko\\betűválogató.ini",
-                                       " 1 \r\n 1 \r\nTrue\r\nFalse\r\n 0 \r\n 14 \r\n");
+                           write_user_settings(files, u"betűválogató.ini",
+                                               " 1 \r\n 1 \r\nTrue\r\nFalse\r\n 0 \r\n 14 \r\n");
                          }}};
 
 } // namespace

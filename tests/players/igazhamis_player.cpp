@@ -19,15 +19,13 @@ bool IgazhamisPlayer::play(Window& window, Hand& hand) {
 
 namespace {
 
-const Played played{
-    {.name = "true_or_false",
-     .window = u"frm_igazhamis",
-     .tasks = 6,
-     .make = make_player<IgazhamisPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_igazhamis&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds}};
+const Played played{{.name = "true_or_false",
+                     .window = u"frm_igazhamis",
+                     .tasks = 6,
+                     .make = make_player<IgazhamisPlayer>,
+                     .gathered = gathered_on_strip<frm_igazhamis>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds}};
 
 } // namespace
 

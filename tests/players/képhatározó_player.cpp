@@ -24,15 +24,13 @@ bool KéphatározóPlayer::play(Window& window, Hand& hand) {
 
 namespace {
 
-const Played played{
-    {.name = "picture_definition",
-     .window = u"frm_képhatározó",
-     .tasks = 6,
-     .make = make_player<KéphatározóPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_képhatározó&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds}};
+const Played played{{.name = "picture_definition",
+                     .window = u"frm_képhatározó",
+                     .tasks = 6,
+                     .make = make_player<KéphatározóPlayer>,
+                     .gathered = gathered_on_strip<frm_képhatározó>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds}};
 
 } // namespace
 

@@ -30,15 +30,13 @@ bool MondatképPlayer::play(Window& window, Hand& hand) {
 
 namespace {
 
-const Played played{
-    {.name = "sentence_to_picture",
-     .window = u"frm_mondatkép",
-     .tasks = 6,
-     .make = make_player<MondatképPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_mondatkép&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds}};
+const Played played{{.name = "sentence_to_picture",
+                     .window = u"frm_mondatkép",
+                     .tasks = 6,
+                     .make = make_player<MondatképPlayer>,
+                     .gathered = gathered_on_strip<frm_mondatkép>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds}};
 
 } // namespace
 

@@ -56,6 +56,13 @@ template<class P> std::unique_ptr<Player> make_player(Session& session, PlayMode
 inline int right_sounds(const Ears& ears) { return ears.heard_right(); }
 inline int wrong_sounds(const Ears& ears) { return ears.heard_wrong(); }
 
+/// Writes a settings file of the user, who may have none yet.
+inline void write_user_settings(Files& files, TextView name, std::string_view lines) {
+  files.make_folder(u"c:\\pomzu");
+  files.make_folder(u"c:\\pomzu\\cserko");
+  files.write(u"c:\\pomzu\\cserko\\" + Text(name), lines);
+}
+
 /// Puts an exercise on the list as long as the program runs.
 class Played {
  public:

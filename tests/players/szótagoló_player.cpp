@@ -87,22 +87,17 @@ bool SzótagolóPlayer::answer(frm_szótagoló& exercise, Hand& hand) const {
 
 namespace {
 
-const Played played{
-    {.name = "syllabifier",
-     .window = u"frm_szótagoló",
-     .tasks = 6,
-     .make = make_player<SzótagolóPlayer>,
-     .gathered = [](Window& window,
-                    const Player&) { return solved_tasks(dynamic_cast<frm_szótagoló&>(window).lbl_eredmény); },
-     .heard_right = right_sounds,
-     .heard_wrong = wrong_sounds,
-     .prepare =
-         [](Files& files) {
-           // Words of two to four syllables, so that each of them has a break to open.
-           files.make_folder(u"c:\\pomzu");
-           files.make_folder(u"c:\\pomzu\\cserko");
-           files.write(u"c:\\pomzu\\cserko\\szótagoló.ini", " 4 \r\n 1 \r\n");
-         }}};
+const Played played{{.name = "syllabifier",
+                     .window = u"frm_szótagoló",
+                     .tasks = 6,
+                     .make = make_player<SzótagolóPlayer>,
+                     .gathered = gathered_on_strip<frm_szótagoló>,
+                     .heard_right = right_sounds,
+                     .heard_wrong = wrong_sounds,
+                     .prepare = [](Files& files) {
+                       // Words of two to four syllables, so that each of them has a break to open.
+                       write_user_settings(files, u"szótagoló.ini", " 4 \r\n 1 \r\n");
+                     }}};
 
 } // namespace
 

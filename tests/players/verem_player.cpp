@@ -150,9 +150,7 @@ namespace {
 
 // Five pictures, a second to look at a solved word, and time enough between two new pictures.
 void prepare(Files& files) {
-  files.make_folder(u"c:\\pomzu");
-  files.make_folder(u"c:\\pomzu\\cserko");
-  files.write(u"c:\\pomzu\\cserko\\verem.ini", " 8 \r\n 5 \r\n 5 \r\n 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
+  write_user_settings(files, u"verem.ini", " 8 \r\n 5 \r\n 5 \r\n 1 \r\n 2 \r\n 0 \r\n 0 \r\n");
 }
 
 // A game is one task: it is well begun when a picture is gone.
