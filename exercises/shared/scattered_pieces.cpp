@@ -182,7 +182,8 @@ void ScatteredPieces::piece_released(int number, const MouseEvent& event) {
 }
 
 bool ScatteredPieces::put_down(const MouseEvent& event) {
-  if (!picked_up_ || event.button != MouseButton::Left) return false;
+  // What shows no border any more is not in anybody's hand.
+  if (!picked_up_ || !pieces_[*picked_up_].Border || event.button != MouseButton::Left) return false;
   Label& piece = pieces_[*picked_up_];
   place(piece, event.x - piece.Width / 2, event.y - piece.Height / 2);
   picked_up_.reset();

@@ -197,6 +197,15 @@ TEST_F(ScatteredPiecesTest, AClickPicksUpAndTheNextOnTheBoxPutsDown) {
   EXPECT_EQ(window.presses_left_over, 1);
 }
 
+TEST_F(ScatteredPiecesTest, WhatHasLostItsBorderIsNotPickedUpAnyMore) {
+  auto& window = three();
+  hand::click(window.szótag[1]);
+  window.szótag[1].Border = false;
+  hand::press(window.tároló, 4000, 1800);
+  EXPECT_EQ(place(window, 1), (Point{200, 700}));
+  EXPECT_EQ(window.presses_left_over, 1);
+}
+
 TEST_F(ScatteredPiecesTest, AClickOfAShakingHandPicksUpButADragDoesNot) {
   auto& window = three();
   hand::press(window.szótag[1], 100, 100);

@@ -102,7 +102,7 @@ bool BetűhiányPlayer::play(Window& window, Hand& hand) {
   const bool solved = text_of(exercise) == exercise.szó();
   if (!mistake_due(task_number(exercise.lbl_eredmény, sets()))) {
     if (solved) {
-      answer(exercise, hand);
+      press_default(exercise.cmd_kész, hand);
     } else {
       turn_over(exercise, hand, misplaced >= 0 ? misplaced : target, gap.missing, misplaced >= 0);
     }
@@ -114,7 +114,7 @@ bool BetűhiányPlayer::play(Window& window, Hand& hand) {
   } else if (misplaced < 0 && wrong >= 0) {
     turn_over(exercise, hand, wrong, gap.missing, false);
   } else {
-    answer(exercise, hand);
+    press_default(exercise.cmd_kész, hand);
     mistake_made();
   }
   return true;
@@ -130,14 +130,6 @@ void BetűhiányPlayer::turn_over(frm_betűhiány& exercise, Hand& hand, int cha
   } else {
     const double far = exercise.platform().measure(label.Font, missing).width;
     hand.drag(label, out ? -far : far, 0);
-  }
-}
-
-void BetűhiányPlayer::answer(frm_betűhiány& exercise, Hand& hand) const {
-  if (by_mouse()) {
-    hand.click(exercise.cmd_kész);
-  } else {
-    hand.key(key::enter, shift::none);
   }
 }
 

@@ -17,7 +17,6 @@ class BetűhiányPlayer : public ExercisePlayer {
 
  private:
   void turn_over(frm_betűhiány& exercise, Hand& hand, int changed, TextView missing, bool out);
-  void answer(frm_betűhiány& exercise, Hand& hand) const;
 };
 
 } // namespace cserko

@@ -32,21 +32,13 @@ class CserkóPlayer : public Player {
     bool wrong_answer = false;
     std::vector<double> before_sort;
   };
-  /// Where a letter of the word has to go: its left edge in the frame, twips.
-  struct Piece {
-    Label* letter;
-    double left;
-  };
 
   bool play(frm_cserkó& window, Hand& hand);
   bool fulfil_wish(frm_cserkó& window, Hand& hand);
-  bool drag_letter(frm_cserkó& window, Hand& hand) const;
-  bool move_letter(frm_cserkó& window, Hand& hand) const;
   bool read_panel(Window& panel, Hand& hand);
   bool press(Window& window, Button& button, Hand& hand) const;
   void notice_puzzle(const frm_cserkó& window);
   const Text* word_for(const frm_cserkó& window) const;
-  std::vector<Piece> places(frm_cserkó& window, const Text& word) const;
 
   Mode mode_;
   int mistakes_;

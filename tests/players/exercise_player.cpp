@@ -79,6 +79,14 @@ bool ExercisePlayer::press_on(const Element& element, Hand& hand, int code, int 
   return there;
 }
 
+void ExercisePlayer::press_default(Button& button, Hand& hand) const {
+  if (by_mouse()) {
+    hand.click(button);
+  } else {
+    hand.key(key::enter, shift::none);
+  }
+}
+
 int ExercisePlayer::key_towards(const Element& element) {
   if (aim_ != element.serial()) {
     aim_ = element.serial();

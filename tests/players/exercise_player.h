@@ -36,6 +36,9 @@ class ExercisePlayer : public Player {
   /// The same by keyboard with another key than the space bar.
   bool press_on(const Element& element, Hand& hand, int code, int shift = shift::none);
 
+  /// Presses the default button of the exercise: a click, or Enter wherever the focus is but on another button.
+  void press_default(Button& button, Hand& hand) const;
+
   /// Whether the task is to be answered wrong first. A task is told from the last one by a number that changes.
   bool mistake_due(int task);
   /// The wrong answer was given.

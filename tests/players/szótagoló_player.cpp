@@ -42,7 +42,8 @@ bool SzótagolóPlayer::play(Window& window, Hand& hand) {
   }
   if (mistake_due(task_number(exercise.lbl_eredmény, sets()))) {
     if (first_wrong > 0) {
-      if (answer(exercise, hand)) mistake_made();
+      press_default(exercise.cmd_kész, hand);
+      mistake_made();
       return true;
     }
     if (exercise.betű.count() > 1) {
@@ -54,7 +55,7 @@ bool SzótagolóPlayer::play(Window& window, Hand& hand) {
   if (first_wrong > 0) {
     change_break(exercise, first_wrong, hand);
   } else {
-    answer(exercise, hand);
+    press_default(exercise.cmd_kész, hand);
   }
   return true;
 }
@@ -74,15 +75,6 @@ void SzótagolóPlayer::change_break(frm_szótagoló& exercise, int letter, Hand
   const double hyphen = exercise.platform().measure(label.Font, u"-").width;
   const double far = label.Width / 2 + hyphen;
   hand.drag(label, open ? -far : far, 0);
-}
-
-bool SzótagolóPlayer::answer(frm_szótagoló& exercise, Hand& hand) const {
-  if (by_mouse()) {
-    hand.click(exercise.cmd_kész);
-  } else {
-    hand.key(key::enter, shift::none);
-  }
-  return true;
 }
 
 namespace {

@@ -17,7 +17,6 @@ class SzótagolóPlayer : public ExercisePlayer {
 
  private:
   void change_break(frm_szótagoló& exercise, int letter, Hand& hand);
-  bool answer(frm_szótagoló& exercise, Hand& hand) const;
 };
 
 } // namespace cserko
