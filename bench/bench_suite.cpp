@@ -13,6 +13,7 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/syllables/frm_szótagkereső.h"
 #include "exercises/syllables/frm_szótagoló.h"
 #include "feedback/feedback.h"
 #include "platform/headless/headless_platform.h"
@@ -194,6 +195,10 @@ void put_for_all(MemoryFiles& files) {
   // Of two letters as few words as will do.
   for (int i = 1; i <= 12; ++i) put_record(files, i * one_in + 1, {to_text(i) + (i % 2 == 0 ? u"xa" : u"qa")});
   files.put(Text(app) + u"betűpár.kvl", "x-q\r\n");
+  // As few words of many syllables, all of twelve letters.
+  for (int i = 0; i < 12; ++i)
+    put_record(files, i * one_in + 2,
+               {u"almafavirág" + Text(1, static_cast<char16_t>(u'a' + i)), {}, u"al-ma-fa-vi-rág"});
 }
 
 template<class Exercise> void deal_by(benchmark::State& state, const std::function<void(Exercise&)>& new_task) {
@@ -231,6 +236,7 @@ BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmar
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_viewer, &frm_betűnézegető::véletlenkép)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, syllable_search, &frm_szótagkereső::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, syllabifier, &frm_szótagoló::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, sentence_to_picture, &frm_mondatkép::feladat_kirakása)
     ->Unit(benchmark::kMillisecond)

@@ -10,6 +10,7 @@
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/syllables/frm_szótagkereső.h"
 #include "exercises/syllables/frm_szótagoló.h"
 
 namespace cserko {
@@ -24,6 +25,7 @@ void install_exercises(Session& session) {
   session.offer<frm_képhatározó>(u"frm_képhatározó");
   session.offer<frm_képmemória>(u"frm_képmemória");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
+  session.offer<frm_szótagkereső>(u"frm_szótagkereső");
   session.offer<frm_szótagoló>(u"frm_szótagoló");
   session.offer<frmverem>(u"frmverem");
 }
