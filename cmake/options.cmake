@@ -69,13 +69,18 @@ elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
   target_compile_options(cserko_test_options INTERFACE -O1)
 endif()
 
-# cserko_test(<name> SOURCES <source>... LIBRARIES <library>...): a headless test program; each of its tests is one of
-# ctest's.
+# cserko_test(<name> [LOGIC] SOURCES <source>... LIBRARIES <library>...): a headless test program; each of its tests is
+# one of ctest's. What is marked as a test of the logic is built where CSERKO_LOGIC_TESTS says so, and else by its name
+# alone: a second run of the same tests without the sanitizers finds nothing more.
 function(cserko_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LIBRARIES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "LOGIC" "" "SOURCES;LIBRARIES")
   add_executable(${name} ${arg_SOURCES})
   target_link_libraries(${name} PRIVATE cserko_test_main ${arg_LIBRARIES} cserko_test_options cserko_warnings)
   cserko_reuse(${name} cserko_test_main)
+  if(arg_LOGIC AND NOT CSERKO_LOGIC_TESTS)
+    set_target_properties(${name} PROPERTIES EXCLUDE_FROM_ALL ON)
+    return()
+  endif()
   # No test takes longer, sanitizers and a busy machine included: one that does is caught in a loop.
   gtest_discover_tests(${name} PROPERTIES TIMEOUT 120)
 endfunction()

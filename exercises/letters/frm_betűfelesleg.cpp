@@ -65,6 +65,7 @@ void frm_betűfelesleg::ablak_beállítás() {
   const Size extent = platform().measure(lbl_feladat.Font, lbl_feladat.Caption);
   lbl_feladat.Width = extent.width;
   lbl_feladat.Height = extent.height;
+  lbl_feladat.WordWrap = false; // it is as wide as its place to the twip, and pixels are coarser
   // The picture stands right under it and begins with the panel; so a row wider than the picture is free of the panel.
   lbl_feladat.Top = pic_eredmény[0].Top - lbl_feladat.Height;
   pic_kép.Top = lbl_feladat.Top + lbl_feladat.Height;

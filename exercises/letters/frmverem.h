@@ -52,6 +52,8 @@ class frmverem : public ExerciseWindow {
   int letters_on_board() const;
   /// Column of the cursor.
   int kurzor() const { return kurzor_; }
+  /// Whether all that the child has done so far has had its effect, slides included.
+  bool at_rest() const { return !busy_ && !walking_; }
   /// Language of the words, also the number of their line in a record file.
   int nyelv() const { return nyelv_; }
   /// Takes 2 or 4, anything else changes nothing. A new game takes the language of the settings.

@@ -40,7 +40,8 @@ bool VeremPlayer::play(Window& window, Hand& hand) {
     waits_ = false;
   }
   waits_ = games_until_loss_ > 0 && sets() - sets_before_ >= games_until_loss_;
-  if (waits_) return false;
+  // What slides is not yet where it will stand: a move that is chosen now is chosen for another board.
+  if (waits_ || !game.at_rest()) return false;
   if (mistake_due(sets())) {
     mistake_made();
     do_move(game, {.turn = 1}, hand);

@@ -10,7 +10,8 @@ namespace {
 using ViewerVisit = Visit<frm_betűnézegető, BetűnézegetőPlayer>;
 
 void type(const ViewerVisit& visit, char16_t character, const std::string& state) {
-  visit.act([character](frm_betűnézegető& window) { input::key_down(window, {.code = 0, .character = character}); });
+  // The character alone tells the letter; the key is any.
+  visit.act([character](frm_betűnézegető& window) { input::key_down(window, {.code = 'A', .character = character}); });
   visit.look(state);
 }
 
