@@ -19,10 +19,9 @@ constexpr TextView advice =
 } // namespace
 
 dlg_betűhiány::dlg_betűhiány(Session& session)
-    : SettingsDialog(session, u"dlg_betűhiány", {5640, 3540}, u"Cserkó - Betűhiány beállítások", u"betűhiány.ini") {
-  for (Label* heading : {&lbl_minbetűszám, &lbl_maxbetűszám}) heading->Centered = false;
-  txt_minbetűszám.AccessibleName = lbl_minbetűszám.Caption;
-  txt_maxbetűszám.AccessibleName = lbl_maxbetűszám.Caption;
+    : SettingsDialog(session, u"dlg_betűhiány", {5640, 3540}, u"Cserkó - Betűhiány beállítások", u"betűhiány.ini"),
+      WordLanguage(*this, {120, 120}),
+      WordLengths(*this, {120, 1140}, 4) {
   set_fields({&ud_minbetűszám, &ud_maxbetűszám, &opt_nyelv[0], &opt_nyelv[1]});
   set_buttons(OKButton, CancelButton);
   set_help(cmd_súgó, u"Betűhiány - beállítások.mht");

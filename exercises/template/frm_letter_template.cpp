@@ -16,10 +16,9 @@ constexpr TextView advice = u"Nincs ilyen hosszú szavunk.\r\nKérlek, változta
 
 dlg_letter_template::dlg_letter_template(Session& session)
     : SettingsDialog(session, u"dlg_letter_template", {5640, 3540}, u"Cserkó - Betűminta beállítások",
-                     u"letter_template.ini") {
-  for (Label* heading : {&lbl_min, &lbl_max}) heading->Centered = false;
-  txt_minbetűszám.AccessibleName = lbl_min.Caption;
-  txt_maxbetűszám.AccessibleName = lbl_max.Caption;
+                     u"letter_template.ini"),
+      WordLanguage(*this, {120, 120}),
+      WordLengths(*this, {120, 1140}, 4) {
   set_fields({&ud_minbetűszám, &ud_maxbetűszám, &opt_nyelv[0], &opt_nyelv[1]});
   set_buttons(OKButton, CancelButton);
   set_help(cmd_súgó, u"betűminta - beállítások.mht");

@@ -3,40 +3,24 @@
 #pragma once
 
 #include "core/exercise.h"
-#include "core/option_group.h"
-#include "core/settings.h"
 #include "exercises/shared/letter_row.h"
+#include "exercises/shared/word_settings.h"
 #include "feedback/result_panel.h"
 
 namespace cserko {
 
 /// Language and length of the words.
-class dlg_letter_template : public SettingsDialog {
+class dlg_letter_template : public SettingsDialog, public WordLanguage, public WordLengths {
  public:
   explicit dlg_letter_template(Session& session);
 
-  Frame frame_nyelv{*this, u"frame_nyelv", {120, 120, 5400, 900}, u"Nyelv"};
-  OptionGroup opt_nyelv{
-      frame_nyelv, u"opt_nyelv", {{0, {120, 360, 2400, 420}, u"Magyar"}, {1, {2640, 360, 2400, 420}, u"Angol"}}, 0};
-  Frame Frame1{*this, u"Frame1", {120, 1140, 5400, 1500}, u"Szavak"};
-  Label lbl_min{Frame1, u"lbl_min", {120, 360, 3000, 480}, u"Minimális betűszám"};
-  TextBox txt_minbetűszám{Frame1, u"txt_minbetűszám", {3240, 360, 720, 480}};
-  UpDown ud_minbetűszám{Frame1, u"ud_minbetűszám", {3960, 360, 360, 480}, txt_minbetűszám, {4, 10, 1}, 4};
-  Label lbl_max{Frame1, u"lbl_max", {120, 900, 3000, 480}, u"Maximális betűszám"};
-  TextBox txt_maxbetűszám{Frame1, u"txt_maxbetűszám", {3240, 900, 720, 480}};
-  UpDown ud_maxbetűszám{Frame1, u"ud_maxbetűszám", {3960, 900, 360, 480}, txt_maxbetűszám, {4, 16, 1}, 10};
   Button OKButton{*this, u"OKButton", {120, 2760, 1720, 660}, u"OK"};
   Button CancelButton{*this, u"CancelButton", {1960, 2760, 1720, 660}, u"Mégsem"};
   Button cmd_súgó{*this, u"cmd_súgó", {3800, 2760, 1720, 660}, u"Súgó"};
 
-  bool english() const { return opt_nyelv.chosen() == 1; }
-
  protected:
   void apply() override;
   void after_read(bool /*from_file*/) override { opt_nyelv.repair(0); }
-
- private:
-  CoupledRange lengths_{ud_minbetűszám, ud_maxbetűszám, 12};
 };
 
 class frm_letter_template : public ExerciseWindow {
