@@ -4,6 +4,7 @@
 // most 16 ms). The two ratios are of processor time, which does not grow with what else the computer does. Exit status
 // 1 where a limit is passed.
 #include "bench/limits.h"
+#include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/exercises.h"
 #include "exercises/letters/frm_betűfelesleg.h"
@@ -235,6 +236,7 @@ BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_viewer, &frm_betűnézegető::véletlenkép)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, short_long, &frm_hosszrövid::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, syllable_search, &frm_szótagkereső::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, syllabifier, &frm_szótagoló::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);

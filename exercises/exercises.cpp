@@ -1,5 +1,6 @@
 #include "exercises/exercises.h"
 
+#include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_betűhiány.h"
@@ -21,6 +22,7 @@ void install_exercises(Session& session) {
   session.offer<frm_betűválogatás>(u"frm_betűválogatás");
   session.offer<frm_betűhiány>(u"frm_betűhiány");
   session.offer<frm_cserkó>(u"frm_cserkó");
+  session.offer<frm_hosszrövid>(u"frm_hosszrövid");
   session.offer<frm_igazhamis>(u"frm_igazhamis");
   session.offer<frm_képhatározó>(u"frm_képhatározó");
   session.offer<frm_képmemória>(u"frm_képmemória");

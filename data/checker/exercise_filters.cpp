@@ -288,7 +288,9 @@ ExerciseFilter short_long(const Pack& pack) {
           always(2),
           drawn(pack, [letters](const WordFacts& w, const Choice& c) {
             const int n = w.name.count();
-            return n >= c[1] && n <= c[2] && !w.record.name.contains('-') && w.name.holds(letters[c[0]]);
+            // With syllables shown the letter must be one there too.
+            return n >= c[1] && n <= c[2] && !w.record.name.contains('-') && w.name.holds(letters[c[0]]) &&
+                   w.syllabified.holds(letters[c[0]]);
           })};
 }
 

@@ -75,6 +75,8 @@ TEST_F(Filters, CountEachLetterOfTheShortLongPairs) {
   const std::vector<WordFacts> words{word("kígyó", "kí-gyó"), word("kis-kutya", "kis-ku-tya")};
   EXPECT_EQ(fitting("frm_hosszrövid", {1, 4, 10}, words), 1); // í; the hyphen keeps the other out
   EXPECT_EQ(fitting("frm_hosszrövid", {0, 4, 10}, words), 0);
+  // The "cs" at the seam of two words is none in syllables.
+  EXPECT_EQ(fitting("frm_hosszrövid", {27, 4, 10}, {word("malacsült", "ma-lac-sült"), word("kocsi", "ko-csi")}), 1);
 }
 
 TEST_F(Filters, KnowHowManyWordsFitOnTheKnightsBoardTogether) {
