@@ -34,7 +34,7 @@ void tiles(const ViewerVisit& visit, const std::string& state) {
 // The small pictures: asked about, chosen wrong, chosen right.
 void reading_check(const ViewerVisit& visit) {
   settings(visit, "-check", [](frm_betűnézegető_beáll& dialog) { dialog.chk_képválasztás.set_value(1); });
-  type(visit, u'a', "-choice");
+  visit.look("-choice");
   tiles(visit, "-choice-with-tiles");
   visit.act([](frm_betűnézegető& window) {
     PictureBox& choice = window.választáskép[2];
