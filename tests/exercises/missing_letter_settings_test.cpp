@@ -1,5 +1,6 @@
 // The settings of Missing letter: the design of the dialog, its ranges, its file of four lines, OK, Cancel and Help.
 #include "tests/exercises/missing_letter_fixture.h"
+#include "tests/exercises/word_lengths.h"
 
 namespace cserko {
 namespace {
@@ -19,32 +20,17 @@ TEST_F(MissingLetterSettingsTest, HasItsTextsRangesAndDefaults) {
   EXPECT_EQ(utf8(d.frame_nyelv.Caption), "Nyelv");
   EXPECT_EQ(captions(d.opt_nyelv), (std::vector<std::string>{"Magyar", "Angol"}));
   EXPECT_EQ(d.opt_nyelv.chosen(), 0);
-  EXPECT_EQ(utf8(d.Frame1.Caption), "Szavak");
-  EXPECT_EQ(utf8(d.lbl_minbetűszám.Caption), "Minimális betűszám");
-  EXPECT_EQ(utf8(d.lbl_maxbetűszám.Caption), "Maximális betűszám");
   EXPECT_EQ(utf8(d.OKButton.Caption), "OK");
   EXPECT_EQ(utf8(d.CancelButton.Caption), "Mégsem");
   EXPECT_EQ(utf8(d.cmd_súgó.Caption), "&Súgó");
-  EXPECT_EQ(d.ud_minbetűszám.Min, 4);
-  EXPECT_EQ(d.ud_minbetűszám.Max, 10);
-  EXPECT_EQ(d.ud_minbetűszám.value(), 4);
-  EXPECT_EQ(d.ud_maxbetűszám.Min, 4);
-  EXPECT_EQ(d.ud_maxbetűszám.Max, 16);
-  EXPECT_EQ(d.ud_maxbetűszám.value(), 10);
-  EXPECT_EQ(utf8(d.txt_minbetűszám.text()), "4");
-  EXPECT_EQ(utf8(d.txt_maxbetűszám.text()), "10");
+  expect_fresh_lengths(d);
   for (const OptionButton* option : {&d.opt_nyelv[0], &d.opt_nyelv[1]}) EXPECT_EQ(option->container(), &d.frame_nyelv);
 }
 
 TEST_F(MissingLetterSettingsTest, TheLengthsLimitEachOther) {
   start();
   auto& d = load<dlg_betűhiány>();
-  d.ud_maxbetűszám.set_value(7);
-  EXPECT_EQ(d.ud_minbetűszám.Max, 7);
-  d.ud_maxbetűszám.set_value(16);
-  EXPECT_EQ(d.ud_minbetűszám.Max, 12);
-  d.ud_minbetűszám.set_value(12);
-  EXPECT_EQ(d.ud_maxbetűszám.Min, 12);
+  expect_lengths_to_limit_each_other(d);
 }
 
 TEST_F(MissingLetterSettingsTest, OkWritesFourLinesHidesTheDialogAndDealsAnew) {

@@ -2,6 +2,7 @@
 // the settings with their list of pairs.
 #include "exercises/boards/frm_hosszrövid.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/word_lengths.h"
 
 #include <set>
 
@@ -428,21 +429,13 @@ TEST_F(ShortLongTest, TheDialogHasItsTextsRangesAndPairs) {
   start();
   auto& d = load<dlg_hosszrövid>();
   EXPECT_EQ(utf8(d.Caption), "Cserkó - Rövid-hosszú");
-  EXPECT_EQ(utf8(d.lbl_minbetűszám.Caption), "Minimális betűszám");
-  EXPECT_EQ(utf8(d.lbl_maxbetűszám.Caption), "Maximális betűszám");
   EXPECT_EQ(utf8(d.Chk_szótagolva.Caption), "Szavak megjelenítése szótagolva");
   EXPECT_EQ(utf8(d.cmd_rövid_hosszú.Caption), "Rövid-hosszú magánhangzópárok kijelölése");
   EXPECT_EQ(utf8(d.cmd_hangváltoó_ékezet.Caption), "Hangváltó ékezetes magánhangzópárok kijelölése");
   EXPECT_EQ(utf8(d.cmd_mássalhangzó.Caption), "Mássalhangzópárok kijelölése");
   EXPECT_EQ(utf8(d.cmd_kijelöléstörlés.Caption), "Minden kijelölés törlése");
-  EXPECT_EQ(d.ud_minbetűszám.Min, 4);
-  EXPECT_EQ(d.ud_minbetűszám.Max, 10);
-  EXPECT_EQ(d.ud_minbetűszám.value(), 4);
-  EXPECT_EQ(d.ud_maxbetűszám.Min, 4);
-  EXPECT_EQ(d.ud_maxbetűszám.Max, 16);
-  EXPECT_EQ(d.ud_maxbetűszám.value(), 10);
-  d.ud_maxbetűszám.set_value(16);
-  EXPECT_EQ(d.ud_minbetűszám.Max, 12);
+  expect_fresh_lengths(d);
+  expect_lengths_to_limit_each_other(d);
   EXPECT_EQ(d.Chk_szótagolva.value(), 0);
   EXPECT_EQ(d.lst_betűpár.selected_count(), pairs);
   Text all;

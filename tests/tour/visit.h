@@ -91,7 +91,7 @@ template<class Exercise, class Player> class Visit {
 };
 
 /// How many tasks the strip of results shows as solved.
-template<class V> int results(const V& visit) { return solved_tasks(visit.exercise().lbl_eredmény); }
+template<class V> int results(const V& visit) { return solved_in(visit.exercise()); }
 
 /// Solves the present task and looks at the window.
 template<class V> void solve_one(const V& visit, const std::string& state) {
