@@ -14,6 +14,8 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/syllables/frm_holvan.h"
+#include "exercises/syllables/frm_merremutat.h"
 #include "exercises/syllables/frm_szótagkereső.h"
 #include "exercises/syllables/frm_szótagoló.h"
 #include "feedback/feedback.h"
@@ -200,6 +202,13 @@ void put_for_all(MemoryFiles& files) {
   for (int i = 0; i < 12; ++i)
     put_record(files, i * one_in + 2,
                {u"almafavirág" + Text(1, static_cast<char16_t>(u'a' + i)), {}, u"al-ma-fa-vi-rág"});
+  files.put(Text(user_folder) + u"holvan.ini", " 12 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\n");
+  for (int i = 1; i <= 40; ++i) {
+    const Text motif = Text(app) + u"irkep\\" + to_text(i);
+    files.put(motif + u".swm", "Merre");
+    for (const TextView picture : {u"_bal.wmf", u"_fel.wmf", u"_jobb.wmf", u"_le.wmf"})
+      files.put(motif + Text(picture), "picture");
+  }
 }
 
 template<class Exercise> void deal_by(benchmark::State& state, const std::function<void(Exercise&)>& new_task) {
@@ -246,6 +255,8 @@ BENCHMARK_CAPTURE(deal, sentence_to_picture, &frm_mondatkép::feladat_kirakása)
 BENCHMARK_CAPTURE(deal, true_or_false, &frm_igazhamis::feladat_kirakása)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1000);
+BENCHMARK_CAPTURE(deal, where_is_it, &frm_holvan::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, which_way, &frm_merremutat::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 
 } // namespace
 

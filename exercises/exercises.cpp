@@ -11,6 +11,8 @@
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/syllables/frm_holvan.h"
+#include "exercises/syllables/frm_merremutat.h"
 #include "exercises/syllables/frm_szótagkereső.h"
 #include "exercises/syllables/frm_szótagoló.h"
 
@@ -22,10 +24,12 @@ void install_exercises(Session& session) {
   session.offer<frm_betűválogatás>(u"frm_betűválogatás");
   session.offer<frm_betűhiány>(u"frm_betűhiány");
   session.offer<frm_cserkó>(u"frm_cserkó");
+  session.offer<frm_holvan>(u"frm_holvan");
   session.offer<frm_hosszrövid>(u"frm_hosszrövid");
   session.offer<frm_igazhamis>(u"frm_igazhamis");
   session.offer<frm_képhatározó>(u"frm_képhatározó");
   session.offer<frm_képmemória>(u"frm_képmemória");
+  session.offer<frm_merremutat>(u"frm_merremutat");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
   session.offer<frm_szótagkereső>(u"frm_szótagkereső");
   session.offer<frm_szótagoló>(u"frm_szótagoló");

@@ -4,6 +4,7 @@
 #include "core/kszöveg.h"
 #include "core/settings.h"
 #include "exercises/letters/frm_cserkó.h"
+#include "exercises/syllables/frm_merremutat.h"
 #include "tests/data_sounds/pack_files.h"
 #include "tests/players/betűnézegető_player.h"
 #include "tests/players/cserkó_player.h"
@@ -112,6 +113,29 @@ TEST_F(BuiltPackTest, LetterViewerFindsThePicturesOfThePack) {
   play(player, [&] { return player.found() >= 300; });
   EXPECT_EQ(player.found(), 300);
   EXPECT_GE(player.wrong_answers(), 50);
+}
+
+TEST_F(BuiltPackTest, WhichWayShowsEveryPictureOfItsCollectionWithItsQuestion) {
+  load_records();
+  auto& window = load<frm_merremutat>();
+  const std::vector<IrányKép> motifs = window.irányképek();
+  EXPECT_EQ(motifs.size(), test::names_in("irkep", ".swm").size() + 1);
+  std::set<Text> shown;
+  for (std::size_t motif = 1; motif < motifs.size(); ++motif) {
+    for (std::size_t direction = 0; direction < 4; ++direction) {
+      if (motifs[motif].képfájl.at(direction).empty()) continue;
+      machine.script_random({drawing(static_cast<double>(direction), 4),
+                             drawing(static_cast<double>(motif), static_cast<double>(motifs.size()))});
+      window.beáll();
+      ASSERT_NE(window.kép.Picture, nullptr);
+      EXPECT_EQ(window.irány(), static_cast<int>(direction));
+      EXPECT_EQ(window.kép.Picture->path(), motifs[motif].képfájl.at(direction));
+      EXPECT_EQ(window.lbl_feladat.Caption, motifs[motif].kérdés + u"?");
+      EXPECT_TRUE(window.lbl_feladat.Caption.starts_with(u"Merre "));
+      shown.insert(window.kép.Picture->path());
+    }
+  }
+  EXPECT_EQ(shown.size(), test::names_in("irkep", ".wmf").size());
 }
 
 // Whatever can be opened from the menu of a window is opened, and asked for its help.

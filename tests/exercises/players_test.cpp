@@ -30,6 +30,9 @@ class ExercisePlayersTest : public ExerciseTest {
       put_full(name, syllables);
     for (const TextView word : memory_words) put_full(Text(word), Text(word));
     put_app_file(u"betűpár.kvl", u"a-e\r\nk-l\r\n");
+    put_app_file(u"irkep\\nyíl.swm", u"Merre mutat a nyíl");
+    for (const TextView picture : {u"nyíl_bal", u"nyíl_fel", u"nyíl_jobb", u"nyíl_le"})
+      put_app_file(u"irkep\\" + Text(picture) + u".wmf");
     put_app_file(u"ms.skt", u"alam\rmalac\rsok\r");
     start();
     put_answer_sounds();

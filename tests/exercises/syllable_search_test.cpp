@@ -496,6 +496,24 @@ TEST_F(SyllableSearchTest, OkInTheSettingsWithinThePauseCountsTheWordOnceAndDeal
   EXPECT_EQ(window.aktuális_kép(), 2) << "the new puzzle stays";
 }
 
+TEST_F(SyllableSearchTest, OkWithinThePauseOfTheThirdWordPraisesOnce) {
+  auto& window = deal();
+  for (int i = 0; i < 3; ++i) {
+    lay_right(window);
+    hand::click(window.cmd_kész);
+    if (i < 2) machine.advance(2000);
+  }
+  seen_at_congratulation = [&] { machine.advance(20000); };
+  then_in<frm_szótagkereső_beáll>([this](frm_szótagkereső_beáll& d) {
+    then_close_congratulation();
+    hand::click(d.OKButton);
+  });
+  hand::click(window.mnu_fájl_beáll);
+  EXPECT_EQ(congratulations, 1);
+  EXPECT_EQ(captions(window.lbl_eredmény), nothing(3));
+  EXPECT_EQ(window.lbl_szótag[0].ForeColor, black);
+}
+
 // Where something is missing.
 
 TEST_F(SyllableSearchTest, WithoutAWordTheWindowStaysEmptyAndTellsWhy) {

@@ -84,8 +84,11 @@ void put_sample_pack(MemoryFiles& files) {
   for (const TextView file :
        {u"null.wav", u"cserko\\clack 1.wav", u"cserko\\moving.wav", u"cserko\\alarm.wav", u"hangok\\a.wav",
         u"hangok\\b.wav", u"hangok\\c.wav", u"hangok\\dob\\1.wav", u"hangok\\dob\\2.wav", u"dysmid\\a.mid",
-        u"dysmid\\b.mid", u"dicskép\\1.wmf", u"dicskép\\2.wmf", u"dicskép\\3.png"})
+        u"dysmid\\b.mid", u"dicskép\\1.wmf", u"dicskép\\2.wmf", u"dicskép\\3.png", u"irkep\\nyíl_bal.wmf",
+        u"irkep\\nyíl_fel.wmf", u"irkep\\nyíl_jobb.wmf", u"irkep\\nyíl_le.wmf", u"irkep\\autó_bal.wmf"})
     put_text(files, file, u"x");
+  put_text(files, u"irkep\\nyíl.swm", u"Merre mutat a nyíl\r\n");
+  put_text(files, u"irkep\\autó.swm", u"Merre megy az autó\r\n");
   for (const TextView page : {u"cserko\\kifest\\0.kif", u"cserko\\kifest\\1.kif"})
     files.put(Text(app) + Text(page), write_bitmap(colouring_page()));
   put_text(files, u"cserko\\grathang.ini", u" 1 \r\n 1 \r\n 1 \r\n 1 \r\n 1 \r\na.wav\r\nb.wav\r\n");
