@@ -3,22 +3,20 @@
 // and the frames in which a card of Picture memory turns (each at most 16.7 ms of work). Exit status 1 where a limit is
 // passed.
 #include "bench/cold.h"
+#include "bench/frame_watch.h"
 #include "bench/heard.h"
 #include "bench/limits.h"
+#include "bench/stage.h"
 #include "exercises/boards/frm_képmemória.h"
-#include "exercises/exercises.h"
-#include "feedback/feedback.h"
 #include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_zenebeáll.h"
 #include "feedback/sounds.h"
 #include "platform/input.h"
-#include "platform/qt/qt_platform.h"
 #include "platform/qt/sound_font.h"
 
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTemporaryDir>
-#include <ctime>
 #include <optional>
 #include <random>
 
@@ -30,32 +28,6 @@ using Clock = std::chrono::steady_clock;
 double ms_between(Clock::time_point from, Clock::time_point to) {
   return std::chrono::duration<double, std::milli>(to - from).count();
 }
-
-/// Lets events happen for a while.
-void let_pass(int microseconds) {
-  const auto end = Clock::now() + std::chrono::microseconds(microseconds);
-  do {
-    QCoreApplication::processEvents();
-    QThread::usleep(200);
-  } while (Clock::now() < end);
-}
-
-template<class Machine = QtPlatform> struct Stage {
-  Stage() {
-    install_feedback(session);
-    install_exercises(session);
-    session.képek.load(machine.files(), session.alapkönyvtár);
-  }
-  template<class W> W& show() {
-    W& window = session.window<W>();
-    machine.show(window);
-    machine.sync_all();
-    let_pass(200'000);
-    return window;
-  }
-  Machine machine;
-  Session session{machine};
-};
 
 // ---- The drum kit ----
 
@@ -152,50 +124,6 @@ void OpenTitleInWindow(benchmark::State& state) {
 BENCHMARK(OpenTitleInWindow)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // ---- Cards ----
-
-/// Notes what happens in each frame.
-class FrameWatch : public QtPlatform {
- public:
-  struct Frame {
-    double work_ms; ///< Processor time until it is painted.
-    double ms;      ///< Until the next one begins.
-  };
-
-  void start() {
-    frames.clear();
-    paints_ = 0;
-    begin();
-  }
-  void redraw(Window& window) override {
-    QtPlatform::redraw(window);
-    work_ms_ = 1000.0 * static_cast<double>(std::clock() - worked_before_) / CLOCKS_PER_SEC;
-  }
-  void next_frame(Window& window) override {
-    QtPlatform::next_frame(window);
-    frames.push_back({work_ms_, ms_between(begin_, Clock::now())});
-    begin();
-  }
-  int paints() const { return paints_; }
-
-  std::vector<Frame> frames;
-
- protected:
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::UpdateRequest) ++paints_;
-    return QtPlatform::eventFilter(object, event);
-  }
-
- private:
-  void begin() {
-    begin_ = Clock::now();
-    worked_before_ = std::clock();
-  }
-
-  Clock::time_point begin_;
-  std::clock_t worked_before_ = 0;
-  double work_ms_ = 0;
-  int paints_ = 0;
-};
 
 /// Turns one card of a fresh board after the other, whose pictures have never been drawn, at a fineness of the
 /// animation.

@@ -82,7 +82,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
       ++entries;
     }
     visit.platform().chance = {(place + 0.5) / entries};
-    input::key_down(window, {.code = 0, .character = u'k'});
+    input::key_down(window, {.code = 'K', .character = u'k'});
   });
   visit.look("-longest-word");
   reading_check(visit);
