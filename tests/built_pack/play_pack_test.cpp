@@ -5,6 +5,7 @@
 #include "core/settings.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/syllables/frm_merremutat.h"
+#include "exercises/syllables/frm_szótagkereső.h"
 #include "tests/data_sounds/pack_files.h"
 #include "tests/players/betűnézegető_player.h"
 #include "tests/players/cserkó_player.h"
@@ -115,6 +116,24 @@ TEST_F(BuiltPackTest, LetterViewerFindsThePicturesOfThePack) {
   EXPECT_GE(player.wrong_answers(), 50);
 }
 
+TEST_F(BuiltPackTest, SyllableSearchFindsPlacesForTheSyllablesOfEveryWord) {
+  load_records();
+  auto& window = load<frm_szótagkereső>();
+  int dealt = 0;
+  for (int i = 0; i < last(); ++i) {
+    if (session().képek.szótagszám(i) < 3 || i == window.aktuális_kép()) continue;
+    machine.script_random({drawing(i, last())});
+    window.beáll();
+    EXPECT_EQ(window.aktuális_kép(), i);
+    EXPECT_EQ(window.lbl_szótag.count(), session().képek.szótagszám(i));
+    // The row of the whole word fits as well.
+    const double row = machine.measure(window.szövegtároló.Font, session().képek[i].név).width;
+    EXPECT_LE(row, window.szövegtároló.Width - 100) << utf8(session().képek[i].név);
+    ++dealt;
+  }
+  EXPECT_GE(dealt, 200);
+}
+
 TEST_F(BuiltPackTest, WhichWayShowsEveryPictureOfItsCollectionWithItsQuestion) {
   load_records();
   auto& window = load<frm_merremutat>();
@@ -185,7 +204,7 @@ TEST_P(EachExerciseOnThePack, IsSolvedSetAfterSetWithTheFactorySettings) {
   play(*player, [&] { return player->sets() >= 50; });
   EXPECT_EQ(player->sets(), 50);
   // One of five tasks, but for those where no answer would be wrong.
-  EXPECT_GE(player->wrong_answers(), GetParam().tasks == 1 ? 5 : 50);
+  EXPECT_GE(player->wrong_answers(), GetParam().tasks == 1 ? 5 : 50 * GetParam().tasks / 6);
 }
 
 } // namespace

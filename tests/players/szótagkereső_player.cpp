@@ -5,6 +5,8 @@
 #include "tests/players/played_exercise.h"
 #include "tests/players/strip.h"
 
+#include <algorithm>
+
 namespace cserko {
 
 namespace {
@@ -30,17 +32,20 @@ bool SzótagkeresőPlayer::play(Window& window, Hand& hand) {
   const std::vector<Text> word = syllables_of(records()[exercise.aktuális_kép()].szótagolt);
   PieceMover syllables(exercise.szövegtároló, exercise.lbl_szótag);
   if (!syllables.want(word)) return false;
+  const auto bring_nearer = [&] { return by_mouse() ? syllables.drag_one(hand) : syllables.move_one_by_key(hand); };
   if (mistake_due(task_number(exercise.lbl_eredmény, sets()))) {
     if (syllables.reading() != word) {
       press_default(exercise.cmd_kész, hand);
       mistake_made();
       return true;
     }
-    // What lies there by chance is right.
+    // What lies there by chance is right: the first syllable goes to the end.
+    std::vector<Text> wrong = word;
+    std::rotate(wrong.begin(), wrong.begin() + 1, wrong.end());
+    if (wrong != word && syllables.want(wrong)) return bring_nearer();
     forgo_mistake();
   }
-  if (!(by_mouse() ? syllables.drag_one(hand) : syllables.move_one_by_key(hand)))
-    press_default(exercise.cmd_kész, hand);
+  if (!bring_nearer()) press_default(exercise.cmd_kész, hand);
   return true;
 }
 
