@@ -156,6 +156,7 @@ int frm_hosszrövid::szó_választás() {
         advice);
     betűpár_ = letters_of(pairs[static_cast<std::size_t>(entry)]);
     kivett_betű_ = betűpár_[static_cast<std::size_t>(random_below(platform(), 2))];
+    if (barren.contains(kivett_betű_)) continue;
     try {
       return képek().draw(platform(), [this](int index) { return index != szó_index_ && fits(index); });
     } catch (const NothingFits&) {

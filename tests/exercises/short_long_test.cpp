@@ -109,6 +109,11 @@ TEST_F(ShortLongTest, TheGapIsAsWideAsTheWiderLetterAndTheRowIsCentred) {
   EXPECT_NEAR(window.line_top() + last.Height / 2, (window.kép.Top + window.kép.Height + window.cmd_kész.Top) / 2, 1);
 }
 
+TEST_F(ShortLongTest, TheWiderLetterMayBeTheLowerOne) {
+  auto& window = deal(u"kocsi", u"c-cs", 1);
+  EXPECT_DOUBLE_EQ(gap(window).Width, machine.measure(window.betű[0].Font, u"cs").width);
+}
+
 TEST_F(ShortLongTest, TheColumnStaysBetweenPictureAndButtonAtEveryLengthAndSize) {
   for (const auto& [width, height] : std::vector<std::pair<int, int>>{{1024, 600}, {1280, 1024}, {3840, 2160}}) {
     for (const Text& word : {Text(u"hajó"), Text(u"óóóóóóóóóóóóóóóó"), Text(u"dzsdzsdzsdzsdzsdzsdzsdzsdzsdzsó")}) {
@@ -173,7 +178,7 @@ TEST_F(ShortLongTest, APairWithoutAnyWordIsPassedOverForAnother) {
 }
 
 TEST_F(ShortLongTest, TheOnlyWordOfALetterComesAgainOnceAnotherWasShown) {
-  put_only({{.név = u"hajó"}, {.név = u"alma"}}, {.név = u"zseb"});
+  put_only({{.név = u"csikó"}, {.név = u"alma"}}, {.név = u"zseb"});
   start();
   const int o = pair_index(load<dlg_hosszrövid>(), u"o-ó");
   const int a = pair_index(load<dlg_hosszrövid>(), u"a-á");
