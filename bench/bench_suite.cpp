@@ -4,6 +4,7 @@
 // most 16 ms). The two ratios are of processor time, which does not grow with what else the computer does. Exit status
 // 1 where a limit is passed.
 #include "bench/limits.h"
+#include "exercises/boards/frm_betűkeverő.h"
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/exercises.h"
@@ -242,6 +243,7 @@ BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMi
 BENCHMARK_CAPTURE(ten_times_the_records, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK(new_puzzle)->ArgName("exactly_8_letters")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(2000);
 BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, letter_mix_up, &frm_betűkeverő::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_viewer, &frm_betűnézegető::véletlenkép)->Unit(benchmark::kMillisecond)->Iterations(1000);

@@ -1,5 +1,6 @@
 #include "exercises/exercises.h"
 
+#include "exercises/boards/frm_betűkeverő.h"
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/letters/frm_betűfelesleg.h"
@@ -20,6 +21,7 @@ namespace cserko {
 
 void install_exercises(Session& session) {
   session.offer<frm_betűfelesleg>(u"frm_betűfelesleg");
+  session.offer<frm_betűkeverő>(u"frm_betűkeverő");
   session.offer<frm_betűnézegető>(u"frm_betűnézegető");
   session.offer<frm_betűválogatás>(u"frm_betűválogatás");
   session.offer<frm_betűhiány>(u"frm_betűhiány");

@@ -1,6 +1,7 @@
 #include "exercises/sentences/frm_képhatározó.h"
 
 #include "core/numbers.h"
+#include "exercises/shared/stack.h"
 #include "feedback/sounds.h"
 
 namespace cserko {
@@ -63,14 +64,7 @@ void frm_képhatározó::nagytakarítás() {
   results_.clear();
   const int count = settings().Ud_meghatározásokszáma.value();
   if (lbl_meghatározás.count() == count) return;
-  lbl_meghatározás.unload_from(1);
-  PictureBox& first = lbl_meghatározás[0];
-  first.Height = (kép.Height - (count - 1) * gap) / count;
-  for (int i = 1; i < count; ++i) {
-    PictureBox& next = lbl_meghatározás.load(i);
-    next.move_to(first.Left, lbl_meghatározás[i - 1].Top + first.Height + gap);
-    next.Visible = true;
-  }
+  stack(lbl_meghatározás, count, kép.Height, gap);
 }
 
 void frm_képhatározó::feladat_törlés() {

@@ -6,18 +6,18 @@
 
 namespace cserko {
 
-/// Its texts, and its ranges and values where no file has been read; the lowest number is 4.
-inline void expect_fresh_lengths(const WordLengths& d) {
+/// Its texts, and its ranges and values where no file has been read.
+inline void expect_fresh_lengths(const WordLengths& d, int lowest = 4) {
   EXPECT_EQ(utf8(d.Frame1.Caption), "Szavak");
   EXPECT_EQ(utf8(d.lbl_minbetűszám.Caption), "Minimális betűszám");
   EXPECT_EQ(utf8(d.lbl_maxbetűszám.Caption), "Maximális betűszám");
-  EXPECT_EQ(d.ud_minbetűszám.Min, 4);
+  EXPECT_EQ(d.ud_minbetűszám.Min, lowest);
   EXPECT_EQ(d.ud_minbetűszám.Max, 10);
-  EXPECT_EQ(d.ud_minbetűszám.value(), 4);
-  EXPECT_EQ(d.ud_maxbetűszám.Min, 4);
+  EXPECT_EQ(d.ud_minbetűszám.value(), lowest);
+  EXPECT_EQ(d.ud_maxbetűszám.Min, lowest);
   EXPECT_EQ(d.ud_maxbetűszám.Max, 16);
   EXPECT_EQ(d.ud_maxbetűszám.value(), 10);
-  EXPECT_EQ(utf8(d.txt_minbetűszám.text()), "4");
+  EXPECT_EQ(utf8(d.txt_minbetűszám.text()), std::to_string(lowest));
   EXPECT_EQ(utf8(d.txt_maxbetűszám.text()), "10");
 }
 
