@@ -1,5 +1,6 @@
 #include "platform/input.h"
 
+#include "platform/access_key.h"
 #include "platform/platform.h"
 
 #include <algorithm>
@@ -87,6 +88,10 @@ bool choose_by_mnemonic(Window& window, const KeyEvent& event) {
     const ElementKind kind = element->kind();
     const bool control =
         kind == ElementKind::Button || kind == ElementKind::CheckBox || kind == ElementKind::OptionButton;
+    if (TextBox* box = box_behind(*element); box != nullptr && mnemonic(element->Caption) == wanted && live(*box)) {
+      window.set_focus(box);
+      return true;
+    }
     if (!control || !live(*element) || mnemonic(element->Caption) != wanted) continue;
     window.set_focus(element);
     press(*element);

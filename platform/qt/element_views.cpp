@@ -107,7 +107,8 @@ class LabelWidget : public ElementWidget {
     if (label_.Opaque) painter.fillRect(rect(), to_qt(label_.BackColor));
     // The ring goes under the text: on a narrow letter it would hide it.
     if (shows_focus(*this, context())) paint_focus_ring(painter, rect(), context().fonts.scale());
-    const QColor color = text_color(*this, label_);
+    // What is faded is meant for the paper; a label with a ground of its own says itself what can be read there.
+    const QColor color = label_.Opaque ? to_qt(label_.ForeColor) : text_color(*this, label_);
     if (label_.Opaque && theme::contrast(color, to_qt(label_.BackColor)) < theme::readable_contrast)
       paint_edge(painter);
     painter.setPen(color);

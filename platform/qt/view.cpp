@@ -1,5 +1,6 @@
 #include "platform/qt/view.h"
 
+#include "platform/access_key.h"
 #include "platform/qt/accessible.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/theme.h"
@@ -89,7 +90,8 @@ void paint_caption(QPainter& painter, const QRectF& place, const Element& elemen
   painter.setFont(context.fonts.font(element.Font));
   int flags = alignment | (wrapped ? Qt::TextWordWrap : Qt::TextSingleLine);
   if (!wrapped && element.Caption.find(u'\r') != Text::npos) flags &= ~Qt::TextSingleLine;
-  if (element.kind() != ElementKind::Label) flags |= context.alt_held ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+  if (element.kind() != ElementKind::Label || box_behind(element) != nullptr)
+    flags |= context.alt_held ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
   painter.drawText(place, flags | Qt::TextDontClip, lines_to_qt(element.Caption));
 }
 

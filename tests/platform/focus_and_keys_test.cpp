@@ -31,6 +31,20 @@ TEST_F(Focus, TabGoesRoundInOrderOfCreationWithOneStopForAGroupOfOptions) {
   EXPECT_EQ(window.focus(), &button);
 }
 
+TEST_F(Focus, AltAndTheMarkOfALabelLeadToTheTextBoxBehindIt) {
+  const Label words(window, u"lbl", {0, 2000, 900, 300}, u"&Eper");
+  show();
+  input::focus(button);
+  hand::key(window, 'E', shift::alt);
+  EXPECT_EQ(window.focus(), &button) << "no box stands behind that label";
+  hand::key(window, 'N', shift::alt);
+  EXPECT_EQ(window.focus(), &text);
+  input::focus(button);
+  text.Enabled = false;
+  hand::key(window, 'N', shift::alt);
+  EXPECT_EQ(window.focus(), &button);
+}
+
 TEST_F(Focus, TabPassesOverWhatCannotBeUsed) {
   show();
   option_b.TabStop = false;

@@ -176,6 +176,32 @@ TEST_F(Looks, ATransparentLabelShowsWhatLiesUnderIt) {
   EXPECT_EQ(image.pixelColor(place(opaque, {450, 450})), QColor(200, 10, 30));
 }
 
+TEST_F(Looks, ADisabledLabelIsFadedOnThePaperAndKeepsItsColourOnAGroundOfItsOwn) {
+  NotingWindow window(*machine);
+  window.BackColor = {0, 120, 0};
+  Label on_paper(window, u"lbl_a", {300, 300, 1500, 1500}, u"M");
+  Label on_ground(window, u"lbl_b", {2100, 300, 1500, 1500}, u"M");
+  on_ground.Opaque = true;
+  on_ground.BackColor = window.BackColor;
+  for (Label* label : {&on_paper, &on_ground}) {
+    label->ForeColor = white;
+    label->Font.size = 60;
+    label->Enabled = false;
+  }
+  show(window);
+  const QImage image = picture_of(window);
+  const auto white_pixels = [&](const Element& label) {
+    int found = 0;
+    for (double x = 0; x < label.Width; x += twips_per_pixel) {
+      for (double y = 0; y < label.Height; y += twips_per_pixel)
+        found += image.pixelColor(place(label, {x, y})) == QColor(Qt::white) ? 1 : 0;
+    }
+    return found;
+  };
+  EXPECT_EQ(white_pixels(on_paper), 0);
+  EXPECT_GE(white_pixels(on_ground), 100) << "the letter";
+}
+
 TEST_F(Looks, AnErasedLineShowsTheTexturedGroundOfItsWindowAgain) {
   QImage noise(64, 64, QImage::Format_RGB32);
   for (int y = 0; y < 64; ++y) {
