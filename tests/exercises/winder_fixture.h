@@ -5,6 +5,7 @@
 #include "exercises/letters/frmverem.h"
 #include "exercises/letters/frmveremigennem.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/sounds_heard.h"
 
 #include <array>
 
@@ -93,16 +94,7 @@ class WinderTest : public ExerciseTest {
   }
 
   /// The sounds since the last call, each by its path under the application folder.
-  std::string heard() {
-    std::string files;
-    const std::string beginning = "open \"c:\\cserko\\";
-    const std::string all = commands();
-    for (std::size_t at = all.find(beginning); at != std::string::npos; at = all.find(beginning, at + 1)) {
-      const std::size_t begin = at + beginning.size();
-      files += (files.empty() ? "" : " ") + all.substr(begin, all.find('"', begin) - begin);
-    }
-    return files;
-  }
+  std::string heard() { return sounds_heard(commands()); }
   static inline const std::string step_sound = "cserko\\rd_kick_2.wav";
   static inline const std::string move_sound = "cserko\\kerchunk.wav";
   static inline const std::string solved_sound = "cserko\\swallow1.wav";
