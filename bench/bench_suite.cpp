@@ -7,6 +7,7 @@
 #include "exercises/boards/frm_betűkeverő.h"
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
+#include "exercises/boards/frm_lóugrás.h"
 #include "exercises/exercises.h"
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_betűhiány.h"
@@ -34,6 +35,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <random>
 #ifdef __GLIBC__
 #include <malloc.h>
 #endif
@@ -237,6 +239,32 @@ void deal_round(benchmark::State& state) {
   });
 }
 
+// Hidden paths of Knight's jump for the longest words that a board takes: the slowest of a hundred, on the worst of all
+// sizes (at most 100 ms).
+void hidden_path(benchmark::State& state) {
+  constexpr std::size_t boards = 10000;
+  std::mt19937_64 generator(1);
+  const auto random = [&generator] { return std::uniform_real_distribution<double>(0, 1)(generator); };
+  double worst = 0;
+  int most_steps = 0;
+  for ([[maybe_unused]] auto _ : state) {
+    for (int rows = 6; rows <= PathSearch::most_rows; ++rows) {
+      for (int columns = 6; columns <= PathSearch::most_columns; ++columns) {
+        PathSearch search(columns, rows, state.range(0) == 1 ? knight_moves : neighbour_moves, random);
+        const int letters = rows * columns * 4 / 5 - 1;
+        std::vector<double> times;
+        for (std::size_t i = 0; i < boards; ++i) {
+          times.push_back(elapsed([&] { benchmark::DoNotOptimize(search.find(letters)); }));
+          most_steps = std::max(most_steps, search.steps());
+        }
+        worst = std::max(worst, percentile(times, 99));
+      }
+    }
+  }
+  state.counters["most_steps"] = most_steps;
+  judge(state, "p99_ms", worst * 1000, 100);
+}
+
 BENCHMARK_CAPTURE(loading_beside_reading, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
 BENCHMARK_CAPTURE(loading_beside_reading, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
@@ -246,6 +274,8 @@ BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_mix_up, &frm_betűkeverő::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, knights_jump, &frm_lóugrás::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK(hidden_path)->ArgName("knight")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(1);
 BENCHMARK_CAPTURE(deal, letter_viewer, &frm_betűnézegető::véletlenkép)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, short_long, &frm_hosszrövid::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, surplus_letter, &frm_betűfelesleg::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);

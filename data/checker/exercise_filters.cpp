@@ -1,12 +1,12 @@
 #include "data/checker/exercise_filters.h"
 
+#include "data/checker/knight_boards.h"
 #include "data/checker/word_chain.h"
 
 #include <QSet>
 #include <algorithm>
 #include <cmath>
 #include <memory>
-#include <numeric>
 
 namespace cserko {
 namespace {
@@ -197,26 +197,6 @@ std::vector<ExerciseFilter> letter_exercises(const Pack& pack) {
 // --- Boards and pairs
 // -------------------------------------------------------------------------------------------------
 
-// Words for the knight's board, or none when even the shortest do not fit on it together.
-int knight_words(const Pack& pack, const Choice& c) {
-  const int rows = c[0], columns = c[1], longest = c[2], pictures = c[3];
-  std::vector<int> lengths;
-  QSet<QString> seen;
-  for (const WordFacts& w : pack.words) {
-    const QString word = (c[4] == 0 ? w.record.name : w.record.english).toLower();
-    const bool fits = !word.isEmpty() && !word.contains(' ') && !word.contains('-') && word.size() <= longest &&
-                      w.record.name.size() <= longest && !seen.contains(word);
-    if (!fits) continue;
-    seen.insert(word);
-    lengths.push_back(static_cast<int>(word.size()) + 1); // with the comma behind it
-  }
-  std::sort(lengths.begin(), lengths.end());
-  const auto together =
-      lengths.begin() + std::min<std::ptrdiff_t>(pictures, static_cast<std::ptrdiff_t>(lengths.size()));
-  const bool room = std::accumulate(lengths.begin(), together, 0) <= 0.8 * rows * columns;
-  return room ? static_cast<int>(lengths.size()) : 0;
-}
-
 // The memory's dialog counts the words that fit its limit, up to the 18 pairs of the board, and lets no more be dealt.
 int memory_guard(const Pack& pack, int most, bool english) {
   QSet<QString> seen;
@@ -303,10 +283,12 @@ std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
       {"frm_lóugrás",
        "Knight's jump",
        {range("rows", 6, 8, 8), range("columns", 6, 12, 8), range("letters at most", 4, 12, 12),
-        range("pictures", 1, 4, 4), language()},
+        range("pictures", 1, 4, 4), language(), choice("rule", {"knight", "neighbours"})},
        any,
        [](const Choice& c) { return c[3]; },
-       [&pack](const Choice& c) { return knight_words(pack, c); }},
+       [&pack](const Choice& c) {
+         return knight_words(pack, {c[0], c[1], c[2], c[3], c[4] == 1, c[5] == 1});
+       }},
       picture_memory(pack),
       {"frm_szólánc",
        "Word chain",

@@ -81,8 +81,15 @@ TEST_F(Filters, CountEachLetterOfTheShortLongPairs) {
 
 TEST_F(Filters, KnowHowManyWordsFitOnTheKnightsBoardTogether) {
   const std::vector<WordFacts> words{word("elefántcsont", "x"), word("orrszarvúhal", "x"), word("tengerimalac", "x")};
-  EXPECT_EQ(fitting("frm_lóugrás", {6, 6, 12, 2, 0}, words), 4);
-  EXPECT_EQ(fitting("frm_lóugrás", {6, 6, 12, 4, 0}, words), 0); // 43 characters on a board that takes 28
+  EXPECT_EQ(fitting("frm_lóugrás", {6, 6, 12, 2, 0, 0}, words), 4);
+  EXPECT_EQ(fitting("frm_lóugrás", {6, 6, 12, 2, 0, 1}, words), 4);
+  EXPECT_EQ(fitting("frm_lóugrás", {6, 6, 12, 4, 0, 0}, words), 0); // 43 characters on a board that takes 28
+}
+
+TEST_F(Filters, KnowThatANumberOfTheKnightsBoardAlsoAsksForTheNameOfARecord) {
+  const std::vector<WordFacts> words{word("ló", "ló", "horse"), word("elefántcsont", "x", "tusk")};
+  EXPECT_EQ(fitting("frm_lóugrás", {8, 8, 4, 1, 0, 0}, words), 1); // two of three, and two of three names are short
+  EXPECT_EQ(fitting("frm_lóugrás", {8, 8, 4, 1, 1, 0}, words), 1); // tusk and end
 }
 
 TEST_F(Filters, CountSyllables) {
