@@ -20,10 +20,6 @@ Text as_time(int seconds) {
 
 frm_képmem_beáll::frm_képmem_beáll(Session& session)
     : SettingsDialog(session, u"frm_képmem_beáll", {5520, 7260}, u"Cserkó Képmemória - Beállítások", u"képmem.ini") {
-  párbeállítás.design(1, {120, 780, 2280, 420}, u"Kép - Szó");
-  optnyelv.design(4, {120, 780, 2280, 420}, u"Angol");
-  párbeállítás[1].set_value(true);
-  optnyelv[2].set_value(true);
   HScroll_anim_finomság.SmallChange = 5;
   HScroll_anim_finomság.LargeChange = 10;
   HScroll_anim_finomság.set_value(10);

@@ -2,8 +2,8 @@
 // that too few words remain.
 #pragma once
 
+#include "core/option_group.h"
 #include "core/settings.h"
-#include "platform/element_array.h"
 
 namespace cserko {
 
@@ -39,10 +39,13 @@ class frm_képmem_beáll : public SettingsDialog {
   CheckBox Chk_szótagolva{*this, u"Chk_szótagolva", {120, 4500, 5280, 420}, u"Szótagolva"};
 
   Frame Frame_pár{*this, u"Frame_pár", {120, 5040, 2580, 1320}, u"Párok"};
-  ElementArray<OptionButton> párbeállítás{Frame_pár, u"párbeállítás", {120, 360, 2280, 420}, TextView(u"Kép - Kép")};
+  OptionGroup párbeállítás{Frame_pár,
+                           u"párbeállítás",
+                           {{0, {120, 360, 2280, 420}, u"Kép - Kép"}, {1, {120, 780, 2280, 420}, u"Kép - Szó"}},
+                           1};
   Frame Frame_nyelv{*this, u"Frame_nyelv", {2820, 5040, 2580, 1320}, u"Nyelv"};
-  ElementArray<OptionButton> optnyelv{
-      Frame_nyelv, u"optnyelv", FirstIndex{2}, {120, 360, 2280, 420}, TextView(u"Magyar")};
+  OptionGroup optnyelv{
+      Frame_nyelv, u"optnyelv", {{2, {120, 360, 2280, 420}, u"Magyar"}, {4, {120, 780, 2280, 420}, u"Angol"}}, 2};
 
   Button cmd_ok{*this, u"cmd_ok", {120, 6480, 1680, 660}, u"OK"};
   Button cmd_mégsem{*this, u"cmd_mégsem", {1920, 6480, 1740, 660}, u"Mégsem"};

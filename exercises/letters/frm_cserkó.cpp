@@ -20,9 +20,6 @@ constexpr int all_modifiers = shift::shift | shift::control | shift::alt;
 
 frm_cserkó_beáll::frm_cserkó_beáll(Session& session)
     : SettingsDialog(session, u"frm_cserkó_beáll", {4920, 5220}, u"Cserkó - Cserkó beállítások", u"kiscserko.ini") {
-  opt_betszám.design(1, {1560, 1080, 1440, 420}, u"Legfeljebb");
-  opt_betszám.design(2, {120, 1080, 1440, 420}, u"Legalább");
-  opt_betszám[1].set_value(true);
   labszópárok.Centered = false;
   txtbetszám.AccessibleName = labszópárok.Caption;
   set_fields({&udbetszám, &opt_betszám[0], &opt_betszám[1], &opt_betszám[2], &chk_ismételt_keverés_engedélyezése,

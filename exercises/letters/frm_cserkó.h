@@ -3,6 +3,7 @@
 #pragma once
 
 #include "core/exercise.h"
+#include "core/option_group.h"
 #include "core/settings.h"
 #include "exercises/shared/scattered_pieces.h"
 #include "platform/element_array.h"
@@ -23,7 +24,12 @@ class frm_cserkó_beáll : public SettingsDialog {
   TextBox txtbetszám{frm_betűszám, u"txtbetszám", {2880, 420, 720, 480}};
   UpDown udbetszám{frm_betűszám, u"udbetszám", {3600, 420, 360, 480}, txtbetszám, {4, 12, 1}, 12};
   /// The element numbers run against the order on the screen: file and filter go by the number.
-  ElementArray<OptionButton> opt_betszám{frm_betűszám, u"opt_betszám", {3120, 1080, 1440, 420}, TextView(u"Pontosan")};
+  OptionGroup opt_betszám{frm_betűszám,
+                          u"opt_betszám",
+                          {{0, {3120, 1080, 1440, 420}, u"Pontosan"},
+                           {1, {1560, 1080, 1440, 420}, u"Legfeljebb"},
+                           {2, {120, 1080, 1440, 420}, u"Legalább"}},
+                          1};
 
   Frame frm_segítség{*this, u"frm_segítség", {120, 1860, 4680, 2460}, u"Segítségek"};
   CheckBox chk_ismételt_keverés_engedélyezése{frm_segítség,

@@ -49,7 +49,8 @@ Size Fonts::measure(const Font& font, TextView text) const {
 }
 
 Size Fonts::measure_wrapped(const Font& font, TextView text, double width) const {
-  const QRectF place(0, 0, width * scale_, endless);
+  // Lines are broken where they are painted: in whole pixels, of which a place may get one less than its twips have.
+  const QRectF place(0, 0, std::floor(width * scale_ + 1e-6), endless);
   const QString lines = text.empty() ? QString(" ") : lines_to_qt(text);
   const QRectF extent = entry(font).metrics.boundingRect(place, Qt::TextWordWrap | Qt::AlignLeft, lines);
   return {std::ceil(extent.width() / scale_), std::ceil(extent.height() / scale_)};

@@ -105,6 +105,17 @@ TEST_F(Measure, AWrappedTextTakesTheHeightThatItMeasures) {
   }
 }
 
+TEST_F(Measure, AWrappedLineIsBrokenAtWholePixels) {
+  for (double size = 10; size <= 20; ++size) {
+    const Font font{u"Times New Roman", size, false};
+    const auto height = [&](double width) { return machine->measure_wrapped(font, u"két alma", width).height; };
+    const double line = std::floor(machine->measure(font, u"két alma").width);
+    for (double width = line - 2 * twips_per_pixel; width < line + 2 * twips_per_pixel; ++width)
+      EXPECT_EQ(height(width), height(std::floor(width / twips_per_pixel) * twips_per_pixel)) << size << ' ' << width;
+    EXPECT_GT(height(line - 2 * twips_per_pixel), 1.5 * height(line + 2 * twips_per_pixel)) << size;
+  }
+}
+
 TEST_F(Measure, ALabelStandsInTheMiddleOfItsPlace) {
   const QRect ink = ink_of(painted(u"ooo", {u"Times New Roman", 24, false}, {4500, 3000}, true));
   EXPECT_NEAR(ink.center().x(), 150, 2);

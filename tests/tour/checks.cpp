@@ -82,8 +82,6 @@ class Inspector {
 
   void inspect_wrapped(const Element& element, double width) {
     const Text text = element.kind() == ElementKind::Label ? element.Caption : without_mnemonic(element.Caption);
-    // A line breaks at whole pixels, and one that does is short of a word's room, not of a pixel's.
-    width = std::floor(width / twips_per_pixel) * twips_per_pixel;
     require_room(element, window_.platform().measure_wrapped(element.Font, text, width), {width, element.Height});
   }
 

@@ -31,6 +31,8 @@ void choose_directions(const WhereVisit& visit, int option, const std::string& s
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const WhereVisit visit(guide, session, platform, u"frm_holvan", "where-is-it");
+  // The words stand right beside the picture, which the design lets touch them.
+  guide.intended.push_back({u"frm_holvan", u"lbl_szó", u"kép"});
   guide.for_help("where-is-it-one-result", "where_is_it", 562);
   guide.for_help("where-is-it-settings", "where_is_it_settings");
   visit.open();
