@@ -1,13 +1,14 @@
 // What the logic of the suite costs with as many records as it can name, beside something that is measured in the same
 // run: loading the records beside plainly reading the same files in the same order (at most 2 times), ten times the
 // records beside once the records (at most 12 times), and the slowest of a hundred new puzzles of each exercise (at
-// most 16 ms). The two ratios are of processor time, which does not grow with what else the computer does. Exit status
-// 1 where a limit is passed.
+// most 16 ms; of a game of Word chain 100 ms). The two ratios are of processor time, which does not grow with what else
+// the computer does. Exit status 1 where a limit is passed.
 #include "bench/limits.h"
 #include "exercises/boards/frm_betűkeverő.h"
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/boards/frm_lóugrás.h"
+#include "exercises/boards/frm_szólánc.h"
 #include "exercises/exercises.h"
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_betűhiány.h"
@@ -265,6 +266,42 @@ void hidden_path(benchmark::State& state) {
   judge(state, "p99_ms", worst * 1000, 100);
 }
 
+// Words of two to four syllables, most of which begin as many others end, by syllables as well as by letters; each has
+// a picture.
+void put_for_chains(MemoryFiles& files) {
+  const auto consonants = std::to_array<TextView>({u"b", u"d", u"g", u"k", u"l", u"m", u"n", u"sz", u"t", u"cs"});
+  const auto vowels = std::to_array<TextView>({u"a", u"e", u"i", u"o", u"ó", u"u"});
+  std::mt19937 chance(1);
+  const auto one_of = [&chance](const auto& texts) { return Text(texts[chance() % texts.size()]); };
+  for (int i = 1; i <= kMostRecords; ++i) {
+    Word word;
+    for (unsigned syllables = 2 + chance() % 3; syllables > 0; --syllables) {
+      const Text syllable = one_of(consonants) + one_of(vowels) + (chance() % 3 == 0 ? one_of(consonants) : Text());
+      word.név += syllable;
+      word.szótagolt += (word.szótagolt.empty() ? u"" : u"-") + syllable;
+    }
+    put_record(files, i, word);
+  }
+}
+
+// A game of Word chain by each of its types, all 28 pictures drawn: a tenth of a second is not felt where a child has
+// just finished a row.
+void deal_chain(benchmark::State& state) {
+  HeadlessPlatform machine;
+  put_for_chains(machine.files());
+  Session session(machine);
+  install_feedback(session);
+  install_exercises(session);
+  session.képek.load(machine.files(), session.alapkönyvtár);
+  session.window<frm_szólánc_beállítások>().opt_típus.choose(static_cast<int>(state.range(0)));
+  std::vector<double> times;
+  times.push_back(elapsed([&] { session.window<frm_szólánc>(); })); // the first one makes the index
+  auto& window = session.window<frm_szólánc>();
+  for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { window.mnu_fájl_újjáték_Click(); }));
+  state.counters["first_ms"] = times.front() * 1000;
+  judge(state, "p99_ms", percentile(times, 99) * 1000, 100);
+}
+
 BENCHMARK_CAPTURE(loading_beside_reading, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
 BENCHMARK_CAPTURE(loading_beside_reading, disk, on_disk)->Unit(benchmark::kMillisecond)->Iterations(5);
 BENCHMARK_CAPTURE(ten_times_the_records, memory, in_memory)->Unit(benchmark::kMillisecond)->Iterations(25);
@@ -272,6 +309,7 @@ BENCHMARK_CAPTURE(ten_times_the_records, disk, on_disk)->Unit(benchmark::kMillis
 BENCHMARK(new_puzzle)->ArgName("exactly_8_letters")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->Iterations(2000);
 BENCHMARK(deal_round)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, letter_mix_up, &frm_betűkeverő::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK(deal_chain)->ArgName("type")->DenseRange(0, 2)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, missing_letter, &frm_betűhiány::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, picture_memory, &frm_képmemória::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, knights_jump, &frm_lóugrás::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);

@@ -28,6 +28,7 @@ void Records::load(const Files& files, const Text& application_folder, const std
   képszám = static_cast<std::int16_t>(last);
   records_.assign(static_cast<std::size_t>(last) + 1, {});
   cuts_ = {};
+  derived_.clear();
 
   const std::vector<Text> names = files.list(pattern);
   for (int i = 0; i <= last; ++i) {

@@ -5,6 +5,9 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
+#include <memory>
+#include <typeindex>
 
 namespace cserko {
 
@@ -81,6 +84,14 @@ class Records {
   int draw(Platform& platform, const Passes& passes, TextView advice = general_advice,
            Reach reach = Reach::WithoutLast) const;
 
+  /// What somebody has worked out over all records: made as `Derived(records)` when it is first asked for and kept as
+  /// long as the records are.
+  template<class Derived> const Derived& derived() const {
+    std::shared_ptr<const void>& kept = derived_[typeid(Derived)];
+    if (!kept) kept = std::make_shared<const Derived>(*this);
+    return *static_cast<const Derived*>(kept.get());
+  }
+
   static constexpr TextView general_advice =
       u"A mostani beállításokhoz egyetlen szó sem illik. Kérlek, engedj a beállításokon!";
 
@@ -96,6 +107,7 @@ class Records {
 
   std::vector<KépAdat> records_{1};
   mutable std::array<std::vector<Cut>, 3> cuts_; ///< By form; as many as records once one of them is asked for.
+  mutable std::map<std::type_index, std::shared_ptr<const void>> derived_;
   int left_out_ = 0;
 };
 

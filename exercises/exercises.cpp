@@ -4,6 +4,7 @@
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
 #include "exercises/boards/frm_lóugrás.h"
+#include "exercises/boards/frm_szólánc.h"
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "exercises/letters/frm_betűhiány.h"
 #include "exercises/letters/frm_betűnézegető.h"
@@ -35,6 +36,7 @@ void install_exercises(Session& session) {
   session.offer<frm_merremutat>(u"frm_merremutat");
   session.offer<frm_lóugrás>(u"frm_lóugrás");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
+  session.offer<frm_szólánc>(u"frm_szólánc");
   session.offer<frm_szótagkereső>(u"frm_szótagkereső");
   session.offer<frm_szótagoló>(u"frm_szótagoló");
   session.offer<frmverem>(u"frmverem");

@@ -274,6 +274,14 @@ ExerciseFilter short_long(const Pack& pack) {
           })};
 }
 
+// With words of any usual length there are chains whatever the order of the files; with shorter words alone at least in
+// several orders.
+int chains(const Pack& pack, ChainType type, int most_letters) {
+  constexpr int usual_length = 12;
+  return most_letters >= usual_length ? chain_starts_in_any_order(pack, type, most_letters)
+                                      : chain_starts_in_some_orders(pack, type, most_letters);
+}
+
 std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
   const Passes distractor = [](const WordFacts& w, const Choice& c) {
     return w.name.count() >= 3 && w.name.count() <= c[1];
@@ -297,7 +305,7 @@ std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
        any,
        always(1),
        [&pack, pool](const Choice& c) {
-         return pool(c) < c[2] ? 0 : chain_starts(pack, static_cast<ChainType>(c[0]), c[1]);
+         return pool(c) < c[2] ? 0 : chains(pack, static_cast<ChainType>(c[0]), c[1]);
        }},
       letter_mix_up(pack),
       short_long(pack),

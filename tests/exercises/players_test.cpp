@@ -29,6 +29,8 @@ class ExercisePlayersTest : public ExerciseTest {
                                           {u"utolsó", u"u-tol-só"}})
       put_full(name, syllables);
     for (const TextView word : memory_words) put_full(Text(word), Text(word));
+    // The word chain never tries the last of several words: with these "egér" and "ablak" are not.
+    for (const TextView word : {u"eper", u"ajtó"}) put_full(Text(word), Text(word));
     put_app_file(u"betűpár.kvl", u"a-e\r\nk-l\r\n");
     put_app_file(u"irkep\\nyíl.swm", u"Merre mutat a nyíl");
     for (const TextView picture : {u"nyíl_bal", u"nyíl_fel", u"nyíl_jobb", u"nyíl_le"})
