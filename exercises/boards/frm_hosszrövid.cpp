@@ -299,8 +299,10 @@ void frm_hosszrövid::kész() {
     return;
   }
   helyes_hang(session());
-  results_.add(szó_index_, record.név);
+  találat_rögzítés();
   beáll();
 }
+
+void frm_hosszrövid::találat_rögzítés() { results_.add(szó_index_, képek()[szó_index_].név); }
 
 } // namespace cserko

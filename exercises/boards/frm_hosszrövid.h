@@ -99,6 +99,7 @@ class frm_hosszrövid : public ExerciseWindow {
   double scale() const;
   void csúsztatás(double top);
   void kész();
+  void találat_rögzítés();
   WordForm form() const;
 
   dlg_hosszrövid& settings() const { return session().window<dlg_hosszrövid>(); }
