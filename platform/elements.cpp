@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cmath>
 
 namespace cserko {
 
@@ -57,6 +58,13 @@ TextView role(ElementKind kind) {
     return u"menü";
   }
   return u"";
+}
+
+// The time of the frames that come nearest to a time, ms; rounded up, so that the last of them is over by then.
+int whole_frames(int ms, double frame) {
+  constexpr double below_any_clock = 1e-6;
+  const double frames = std::max(1.0, std::round(ms / frame));
+  return static_cast<int>(std::ceil(frames * frame - below_any_clock));
 }
 
 // The number that a text is, none if it is not a whole number of at most six digits.
@@ -374,6 +382,11 @@ Timer::Timer(Parent parent, TextView name, int interval, bool enabled)
 void Timer::restart() {
   Enabled = true;
   ++restarts_;
+}
+
+int Timer::period() const {
+  if (Interval < 10) return idle_pace;
+  return WholeFrames ? whole_frames(Interval, window().platform().display_frame()) : Interval;
 }
 
 MenuItem::MenuItem(Parent parent, TextView name, TextView caption, int shortcut_key, int shortcut_shift)

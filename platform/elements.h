@@ -481,6 +481,9 @@ class Timer : public Element {
  public:
   Timer(Parent parent, TextView name, int interval, bool enabled = true);
   int Interval;
+  /// For what is on the screen until the tick: counted in frames of the display, the number of them that is nearest to
+  /// the interval, but at least one. What shows a picture for less than a frame shows it by chance.
+  bool WholeFrames = false;
   std::function<void()> Tick;
   bool InTick = false; ///< Kept by the machine: the handler is running.
   bool running() const { return Enabled && Interval > 0; }
@@ -490,7 +493,7 @@ class Timer : public Element {
   /// Differs each time that it has been started over.
   int restarts() const { return restarts_; }
   /// What lies between two ticks, ms.
-  int period() const { return Interval < 10 ? idle_pace : Interval; }
+  int period() const;
 
  private:
   int restarts_ = 0;

@@ -116,7 +116,7 @@ bool press_default(Window& window, const KeyEvent& event, const Element* focused
   if (event.code == key::enter && focused != nullptr && focused->kind() == ElementKind::TextBox) {
     if (UpDown* stepper = static_cast<const TextBox*>(focused)->Stepper) stepper->finish_typing();
   }
-  press(*button);
+  if (live(*button)) press(*button);
   return true;
 }
 

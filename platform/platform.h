@@ -67,6 +67,8 @@ class Platform {
   /// Milliseconds since a fixed moment; never goes back.
   virtual std::int64_t now() const = 0;
   virtual TimeOfDay time_of_day() const = 0;
+  /// How long the display shows one frame, ms.
+  virtual double display_frame() const { return 1000.0 / 60; }
   /// Seeds the generator from the clock.
   virtual void seed_random() = 0;
   /// The next random number in [0, 1).

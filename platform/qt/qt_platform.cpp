@@ -514,6 +514,16 @@ TimeOfDay QtPlatform::time_of_day() const {
   return {time.hour(), time.minute()};
 }
 
+double QtPlatform::display_frame() const {
+  // What a display says of itself may be nonsense, as that of a virtual one.
+  constexpr double slowest = 50;
+  constexpr double quickest = 500;
+  constexpr double usual = 60;
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const double rate = screen != nullptr ? screen->refreshRate() : 0;
+  return 1000.0 / (rate >= slowest && rate <= quickest ? rate : usual);
+}
+
 void QtPlatform::seed_random() {
   bool fixed = false;
   const qulonglong seed = qEnvironmentVariable("CSERKO_SEED").toULongLong(&fixed);

@@ -48,6 +48,7 @@ class QtPlatform : public QObject, public Platform {
 
   std::int64_t now() const override { return clock_.elapsed(); }
   TimeOfDay time_of_day() const override;
+  double display_frame() const override;
   void seed_random() override;
   double random() override;
 

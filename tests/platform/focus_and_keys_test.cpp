@@ -361,6 +361,17 @@ TEST_F(Stepper, EnterOnTheDefaultButtonFindsTheBuddyMended) {
   EXPECT_EQ(log, (Log{"window KeyDown 13", "4", "window KeyUp 13"}));
 }
 
+TEST_F(Stepper, EnterDoesNotPressADefaultButtonThatTheMendedNumberHasDisabled) {
+  other.Default = true;
+  other.Click = [this] { log.push_back("pressed"); };
+  updown.Change = [this] { other.Enabled = updown.value() != updown.Min; };
+  show();
+  hand::write(buddy, u"1");
+  hand::key(window, key::enter);
+  EXPECT_EQ(updown.value(), updown.Min);
+  EXPECT_EQ(log, (Log{"window KeyDown 13", "window KeyUp 13"}));
+}
+
 TEST_F(Stepper, ABuddyMayHaveWiderLimitsThanItsUpDown) {
   updown.TextLimits = {1, 20};
   show();

@@ -68,6 +68,40 @@ TEST_F(Timers, FireEveryIntervalAlsoInWindowsThatAreNotShown) {
   EXPECT_EQ(platform.now(), 350);
 }
 
+TEST_F(Timers, CountedInFramesTickAtTheNearestFrameButNotBeforeOneIsOver) {
+  for (const auto& [interval, period] : {std::pair{10, 17},
+                                         {20, 17},
+                                         {24, 17},
+                                         {30, 34},
+                                         {40, 34},
+                                         {50, 50},
+                                         {60, 67},
+                                         {1000, 1000},
+                                         {1230, 1234},
+                                         {30990, 30984}}) {
+    Timer timer(window, u"Timer1", interval);
+    timer.WholeFrames = true;
+    timer.Tick = noting_time();
+    times.clear();
+    const std::int64_t start = platform.now();
+    platform.advance(period);
+    EXPECT_EQ(times, std::vector<std::int64_t>{start + period}) << interval;
+  }
+}
+
+TEST_F(Timers, CountedInFramesFollowTheDisplay) {
+  struct QuickDisplay : HeadlessPlatform {
+    double display_frame() const override { return 1000.0 / 144; }
+  } quick;
+  TestHost quick_host(quick);
+  TestWindow other(quick, log);
+  Timer timer(other, u"Timer1", 10);
+  timer.WholeFrames = true;
+  EXPECT_EQ(timer.period(), 7) << "one frame";
+  timer.Interval = 12;
+  EXPECT_EQ(timer.period(), 14) << "two";
+}
+
 TEST_F(Timers, FireInOrderOfTheirTimesAndThenOfTheirCreation) {
   Timer slow(window, u"slow", 200);
   Timer quick(window, u"quick", 100);
