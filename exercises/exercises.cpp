@@ -14,6 +14,7 @@
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/sentences/frm_szóvillám.h"
 #include "exercises/syllables/frm_holvan.h"
 #include "exercises/syllables/frm_merremutat.h"
 #include "exercises/syllables/frm_szótagkereső.h"
@@ -39,6 +40,7 @@ void install_exercises(Session& session) {
   session.offer<frm_szólánc>(u"frm_szólánc");
   session.offer<frm_szótagkereső>(u"frm_szótagkereső");
   session.offer<frm_szótagoló>(u"frm_szótagoló");
+  session.offer<frm_szóvillám>(u"frm_szóvillám");
   session.offer<frmverem>(u"frmverem");
 }
 
