@@ -354,6 +354,7 @@ TEST_F(WhichWayMissingTest, WherePicturesAreLostLaterNoOldWordIsLeft) {
   then_close_message();
   hand::click(right_button(window));
   EXPECT_EQ(message, no_pictures);
+  EXPECT_EQ(utf8(window.lbl_feladat.Caption), "");
   EXPECT_EQ(buttons(window), nothing(4));
   EXPECT_NE(utf8(window.lbl_eredmény[0].Caption), "") << "the solved one stays";
 }
