@@ -13,7 +13,7 @@ namespace {
 constexpr double picture_gap = 60;   // twips
 constexpr double board_share = 0.8;  // of the fields that the words may take
 constexpr int fruitless_draws = 200; // then all files are looked through once, without drawing
-constexpr int most_rounds = 2000;    // sets of words drawn for one board
+constexpr int most_rounds = 500;     // sets of words drawn for one board
 
 constexpr Color dark_square{128, 128, 128};
 constexpr Color light_square{236, 226, 204};
@@ -121,7 +121,6 @@ void frm_lóugrás::Load() {
   cmd_súgó.Enabled = settings().chk_segítség_engedélyezése.ticked();
   // The stored language does not survive the start, which is intended.
   settings().optnyelv.choose(kszöveg::magyar);
-  nyelv(kszöveg::magyar);
   ablak_méretezés(*this, 0.9);
   const Label& first = betű[0];
   board_ = {first.Left, first.Top, columns * first.Width, rows * first.Height};

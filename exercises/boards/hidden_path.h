@@ -33,7 +33,7 @@ class PathSearch {
 
   static constexpr int steps_a_start = 500; ///< Fields entered before it starts over.
   static constexpr int starts_a_field = 5;  ///< Starts before another start field is drawn.
-  static constexpr int most_starts = 400;   ///< Far above what any board of the settings needs, which is ten.
+  static constexpr int most_starts = 400;   ///< Far above what any board of the settings needs: fewer than twenty.
 
   /// A board of so many columns and rows, at most the largest. `random` gives numbers in [0, 1).
   PathSearch(int columns, int rows, const Moves& moves, std::function<double()> random);
