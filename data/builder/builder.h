@@ -33,6 +33,9 @@ void build_look(const BuildPaths& paths);
 /// The pictures on the buttons of the drawing board, into a folder; part of the look.
 void build_tool_pictures(const QString& folder);
 
+/// The landscape of the graphic main window, its highlight and the pictures of the exercises; needs no table.
+void build_scene(const BuildPaths& paths);
+
 /// One sheet of all pictures of a folder (`table`) with their names, for the eye.
 void build_contact_sheet(const BuildPaths& paths);
 

@@ -1,8 +1,9 @@
 // The look of the windows: the program's icon, the paper behind everything, the back of the cards and the tools of the
 // drawing board. Drawn by code, the same on each machine.
+#include "data/builder/brushwork.h"
 #include "data/builder/builder.h"
-#include "data/pack/metafile_device.h"
 #include "data/pack/table.h"
+#include "data/pack/wmf_writer.h"
 
 #include <QBuffer>
 #include <QImage>
@@ -65,44 +66,36 @@ QByteArray card_back() {
   constexpr int petals = 8;
   const QColor cream(0xFB, 0xF1, 0xD8), edge(0xC9, 0x6F, 0x2B), ink(0x7A, 0x52, 0x2E);
   const double centre = kMetafileSide / 2.0;
-  MetafileDevice device;
-  QPainter painter(&device);
-  painter.setPen(Qt::NoPen);
-  painter.translate(centre, centre);
-  for (int petal = 0; petal < petals; ++petal) {
-    painter.setBrush(petal % 2 == 0 ? cream : edge);
-    painter.drawPath(ink_drop({0, centre * 0.16}, centre * 0.52));
+  return drawn_metafile("the back of the cards", {kMetafileSide, kMetafileSide}, [&](QPainter& painter) {
+    painter.translate(centre, centre);
+    for (int petal = 0; petal < petals; ++petal) {
+      painter.setBrush(petal % 2 == 0 ? cream : edge);
+      painter.drawPath(ink_drop({0, centre * 0.16}, centre * 0.52));
+      painter.setBrush(ink);
+      painter.drawEllipse(QPointF(0, centre * 0.84), centre * 0.045, centre * 0.045);
+      painter.rotate(360.0 / petals);
+    }
     painter.setBrush(ink);
-    painter.drawEllipse(QPointF(0, centre * 0.84), centre * 0.045, centre * 0.045);
-    painter.rotate(360.0 / petals);
-  }
-  painter.setBrush(ink);
-  painter.drawEllipse(QPointF(0, 0), centre * 0.08, centre * 0.08);
-  painter.end();
-  if (!device.refusal().isEmpty()) throw PackError("the back of the cards cannot be kept: " + device.refusal());
-  return write_metafile(device.shapes());
+    painter.drawEllipse(QPointF(0, 0), centre * 0.08, centre * 0.08);
+  });
 }
 
 // A plus or a cross on a round plate: an entry joins a list, or leaves it.
 QByteArray list_icon(const QColor& plate, double turn) {
   constexpr double arm = 0.62, thickness = 0.2; // as parts of the plate's radius
   const double radius = kMetafileSide / 2.0;
-  MetafileDevice device;
-  QPainter painter(&device);
-  painter.setPen(Qt::NoPen);
-  painter.translate(radius, radius);
-  painter.setBrush(plate);
-  painter.drawEllipse(QPointF(0, 0), radius * 0.96, radius * 0.96);
-  painter.setBrush(QColor(0xFF, 0xF6, 0xE0));
-  for (const double angle : {turn, turn + 90}) {
-    painter.save();
-    painter.rotate(angle);
-    painter.drawRect(QRectF(-arm * radius, -thickness / 2 * radius, 2 * arm * radius, thickness * radius));
-    painter.restore();
-  }
-  painter.end();
-  if (!device.refusal().isEmpty()) throw PackError("an icon cannot be kept: " + device.refusal());
-  return write_metafile(device.shapes());
+  return drawn_metafile("an icon", {kMetafileSide, kMetafileSide}, [&](QPainter& painter) {
+    painter.translate(radius, radius);
+    painter.setBrush(plate);
+    painter.drawEllipse(QPointF(0, 0), radius * 0.96, radius * 0.96);
+    painter.setBrush(QColor(0xFF, 0xF6, 0xE0));
+    for (const double angle : {turn, turn + 90}) {
+      painter.save();
+      painter.rotate(angle);
+      painter.drawRect(QRectF(-arm * radius, -thickness / 2 * radius, 2 * arm * radius, thickness * radius));
+      painter.restore();
+    }
+  });
 }
 
 // A small generator of its own keeps the paper's grain the same in every build.

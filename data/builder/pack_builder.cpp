@@ -21,6 +21,7 @@ constexpr Job kJobs[] = {
     {"directions", build_directions},
     {"colouring", build_colouring},
     {"look", build_look},
+    {"scene", build_scene},
     {"contact", build_contact_sheet},
 };
 
@@ -31,7 +32,7 @@ int main(int argc, char** argv) {
   QGuiApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "Builds one part of the data pack: words, praise, directions, colouring, look or contact.");
+      "Builds one part of the data pack: words, praise, directions, colouring, look, scene or contact.");
   parser.addHelpOption();
   parser.addOptions({{"icons", "The icon set's icons.json.", "file"},
                      {"table", "The table of this part.", "file"},

@@ -1,11 +1,8 @@
 // The pictures on the buttons of the drawing board, drawn by code.
+#include "data/builder/brushwork.h"
 #include "data/builder/builder.h"
-#include "data/pack/metafile_device.h"
 #include "data/pack/table.h"
-
-#include <QPainter>
-#include <QPainterPath>
-#include <QPolygonF>
+#include "data/pack/wmf_writer.h"
 
 namespace cserko {
 namespace {
@@ -16,16 +13,6 @@ const QColor kInk(0x3B, 0x27, 0x1A), kWood(0xF3, 0xD2, 0xA0), kPencil(0xE8, 0xA0
 
 // The pictures are drawn on a square of 100 units a side.
 using Draw = void (*)(QPainter& painter);
-
-void box(QPainter& painter, const QColor& color, double left, double top, double width, double height) {
-  painter.setBrush(color);
-  painter.drawRect(QRectF(left, top, width, height));
-}
-
-void polygon(QPainter& painter, const QColor& color, const QPolygonF& corners) {
-  painter.setBrush(color);
-  painter.drawPolygon(corners);
-}
 
 // Upright, its tip at the bottom, and then laid aslant.
 void pen(QPainter& painter) {
@@ -78,14 +65,10 @@ void straight_line(QPainter& painter) {
 }
 
 QByteArray picture(Draw draw) {
-  MetafileDevice device;
-  QPainter painter(&device);
-  painter.setPen(Qt::NoPen);
-  painter.scale(kMetafileSide / 100.0, kMetafileSide / 100.0);
-  draw(painter);
-  painter.end();
-  if (!device.refusal().isEmpty()) throw PackError("the picture of a tool cannot be kept: " + device.refusal());
-  return write_metafile(device.shapes());
+  return drawn_metafile("the picture of a tool", {kMetafileSide, kMetafileSide}, [draw](QPainter& painter) {
+    painter.scale(kMetafileSide / 100.0, kMetafileSide / 100.0);
+    draw(painter);
+  });
 }
 
 } // namespace

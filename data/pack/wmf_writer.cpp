@@ -110,10 +110,10 @@ std::vector<QRgb> distinct_colors(const std::vector<FilledShape>& shapes) {
   return colors;
 }
 
-QByteArray placeable_header() {
+QByteArray placeable_header(QSize size) {
   Words header;
   header.u32(0x9AC6CDD7);
-  for (int value : {0, 0, 0, kMetafileSide, kMetafileSide, kUnitsPerInch, 0, 0}) header.u16(value);
+  for (int value : {0, 0, 0, size.width(), size.height(), kUnitsPerInch, 0, 0}) header.u16(value);
   quint16 checksum = 0;
   for (int i = 0; i < header.bytes().size(); i += 2)
     checksum ^= qFromLittleEndian<quint16>(header.bytes().constData() + i);
@@ -136,12 +136,12 @@ QByteArray standard_header(const RecordStream& stream, size_t objects) {
 
 } // namespace
 
-QByteArray write_metafile(const std::vector<FilledShape>& shapes) {
+QByteArray write_metafile(const std::vector<FilledShape>& shapes, QSize size) {
   const std::vector<QRgb> colors = distinct_colors(shapes);
   RecordStream stream;
   stream.record(set_map_mode, {kAnisotropic});
   stream.record(set_window_org, {0, 0});
-  stream.record(set_window_ext, {kMetafileSide, kMetafileSide});
+  stream.record(set_window_ext, {size.height(), size.width()});
   stream.record(set_bk_mode, {kTransparent});
   stream.record(create_pen_indirect, null_pen());
   stream.record(select_object, {0});
@@ -159,7 +159,7 @@ QByteArray write_metafile(const std::vector<FilledShape>& shapes) {
     write_figure(stream, shape);
   }
   stream.record(end_of_file);
-  return placeable_header() + standard_header(stream, colors.size() + 1) + stream.bytes();
+  return placeable_header(size) + standard_header(stream, colors.size() + 1) + stream.bytes();
 }
 
 } // namespace cserko

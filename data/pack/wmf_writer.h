@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QColor>
+#include <QSize>
 #include <vector>
 
 namespace cserko {
@@ -21,7 +22,8 @@ struct FilledShape {
   std::vector<GridPolygon> polygons;
 };
 
-/// The whole metafile, placeable header included, that draws the shapes in order.
-QByteArray write_metafile(const std::vector<FilledShape>& shapes);
+/// The whole metafile, placeable header included, that draws the shapes in order. The picture is the area from 0, 0 to
+/// `size`, in metafile units; its sides are below 32768.
+QByteArray write_metafile(const std::vector<FilledShape>& shapes, QSize size = {kMetafileSide, kMetafileSide});
 
 } // namespace cserko

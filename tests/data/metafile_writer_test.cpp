@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QtEndian>
+#include <algorithm>
 
 namespace cserko {
 namespace {
@@ -45,6 +46,17 @@ TEST(MetafileWriter, PutsAPlaceableHeaderWithItsChecksumInFront) {
   int checksum = 0;
   for (int i = 0; i < 20; i += 2) checksum ^= u16(file, i);
   EXPECT_EQ(u16(file, 20), checksum);
+}
+
+TEST(MetafileWriter, TheWholePictureMayBeOfAnyShape) {
+  const QByteArray file = write_metafile({triangle(qRgb(1, 2, 3))}, {13700, 8450});
+  EXPECT_EQ(u16(file, 10), 13700);
+  EXPECT_EQ(u16(file, 12), 8450);
+  const std::vector<Record> records = records_of(file);
+  const auto extent =
+      std::find_if(records.begin(), records.end(), [](const Record& r) { return r.function == 0x020C; });
+  ASSERT_NE(extent, records.end());
+  EXPECT_EQ(extent->words, (std::vector<int>{8450, 13700})) << "the height comes first";
 }
 
 TEST(MetafileWriter, TellsSizeObjectsAndLargestRecordInTheStandardHeader) {
