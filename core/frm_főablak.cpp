@@ -3,13 +3,10 @@
 #include "core/exercise_table.h"
 #include "core/finally.h"
 #include "core/frame.h"
-#include "core/frm_referencia.h"
-#include "core/frmháttér.h"
 #include "core/kszöveg.h"
 #include "core/numbers.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace cserko {
 
@@ -26,10 +23,7 @@ constexpr int rest_before_swaps = -100;
 } // namespace
 
 frm_főablak::frm_főablak(Session& session)
-    : Window(session.platform(), u"frm_főablak", {12360, 7380}, u"Tintakő Cserkó"),
-      drawing(session.platform()),
-      session_(session) {
-  KeyPreview = true;
+    : MainWindow(session, u"frm_főablak", {12360, 7380}), drawing(session.platform()) {
   design_buttons();
   bind_menu();
   dísz.Click = [this] { dísz_click(); };
@@ -52,22 +46,16 @@ void frm_főablak::design_buttons() {
     } else {
       cmd_játék.design(i, {left, top, first.width, first.height}, entry.caption);
     }
-    cmd_játék[i].Enabled = session_.offers(entry.window);
+    cmd_játék[i].Enabled = session().offers(entry.window);
   }
   cmd_játék.Click = [this](int index) { cmd_játék_click(index); };
 }
 
 void frm_főablak::bind_menu() {
   mnu_fájl_főablak_beállításai.Click = [this] { főablak_beállításai(); };
-  mnu_file_eseményhangok_beállításai.Click = [this] { platform().show_modal(session_.window(u"frm_hangbeáll")); };
-  mnu_fájl_zenebeállítások.Click = [this] { zenebeállítások(); };
   mnu_fájl_kilépés.Click = [this] { kilépés(); };
-  mnu_jutalomjáték_dobolás.Click = [this] { free_reward(u"frm_dobszerkó", u"Timer_ablakbezárás"); };
-  mnu_jutalom_rajz.Click = [this] { free_reward(u"frm_rajz", u"Timer2"); };
-  mnu_file_eseményhangok_beállításai.Enabled = session_.offers(u"frm_hangbeáll");
-  mnu_fájl_zenebeállítások.Enabled = session_.offers(u"frm_zenebeáll");
-  mnu_jutalomjáték_dobolás.Enabled = session_.offers(u"frm_dobszerkó");
-  mnu_jutalom_rajz.Enabled = session_.offers(u"frm_rajz");
+  bind_entries(
+      {mnu_file_eseményhangok_beállításai, mnu_fájl_zenebeállítások, mnu_jutalomjáték_dobolás, mnu_jutalom_rajz});
 }
 
 void frm_főablak::Load() {
@@ -77,7 +65,7 @@ void frm_főablak::Load() {
   dísz.Border = true;
   drawing.start();
   ablak_méretezés(*this, 0.8);
-  ablak_középre(session_, *this);
+  ablak_középre(session(), *this);
   gomb_betűméret();
   cmd_súgó.Font.size = cmd_játék[0].Font.size;
   dísz_indítás();
@@ -113,8 +101,7 @@ void frm_főablak::Activate() {
   read_order_file(settings());
   platform().redraw(*this);
   képváltás_ideje = platform().now();
-  const Text first = std::exchange(session_.first_exercise, {});
-  if (session_.offers(first)) indítás(first);
+  MainWindow::Activate();
 }
 
 void frm_főablak::KeyDown(KeyEvent& event) {
@@ -132,10 +119,10 @@ void frm_főablak::dísz_click() {
 }
 
 void frm_főablak::új_kép() {
-  if (session_.képek.képszám == 0) return;
-  const int index = random_below(platform(), session_.képek.képszám);
-  show_record_picture(session_, dísz, index);
-  lbldisz.Caption = session_.képek[index].név;
+  if (session().képek.képszám == 0) return;
+  const int index = random_below(platform(), session().képek.képszám);
+  show_record_picture(session(), dísz, index);
+  lbldisz.Caption = session().képek[index].név;
   cserko::Font font = lbldisz.Font;
   font.size = 8;
   lbldisz.Font.size =
@@ -196,7 +183,7 @@ void frm_főablak::indítás(TextView exercise) {
     Timer1.Interval = 1;
   });
   Timer1.Interval = 0;
-  run_on_backdrop(session_, [this, exercise]() -> Window& { return session_.window(exercise); });
+  MainWindow::indítás(exercise);
 }
 
 void frm_főablak::cmd_játék_click(int index) {
@@ -204,16 +191,16 @@ void frm_főablak::cmd_játék_click(int index) {
   const auto entry = std::find_if(exercise_table.begin(), exercise_table.end(), [&](const ExerciseEntry& candidate) {
     return candidate.caption == cmd_játék[index].Caption;
   });
-  if (entry != exercise_table.end() && session_.offers(entry->window)) indítás(entry->window);
+  if (entry != exercise_table.end() && session().offers(entry->window)) indítás(entry->window);
 }
 
 void frm_főablak::főablak_beállításai() {
   const Finally go_on([this] { Timer1.Enabled = true; });
   Timer1.Enabled = false;
   platform().show_modal(settings());
-  if (!settings().chk_grafikus_főablak.ticked() || !session_.offers(u"frm_grafikus_főablak")) return;
+  if (!settings().chk_grafikus_főablak.ticked()) return;
   // Loaded before this window goes: where that fails, the person still has one.
-  Window& graphic = session_.window(u"frm_grafikus_főablak");
+  Window& graphic = session().window(u"frm_grafikus_főablak");
   platform().hide(*this);
   platform().show_modal(graphic);
   rest_decoration();
@@ -225,35 +212,15 @@ void frm_főablak::főablak_beállításai() {
 }
 
 void frm_főablak::zenebeállítások() {
-  Timer& music_timer = session_.window<frm_referencia>().Timer_zene;
-  bool music_goes_on = music_timer.Enabled;
-  const Finally go_on([&] {
-    Timer1.Enabled = true;
-    music_timer.Enabled = music_goes_on;
-  });
-  music_timer.Enabled = false;
+  const Finally go_on([this] { Timer1.Enabled = true; });
   Timer1.Enabled = false;
-  session_.feedback.zene_lejátszás({});
-  platform().show_modal(session_.window(u"frm_zenebeáll"));
-  music_goes_on = session_.ticked(u"frm_zenebeáll", u"chk_zene_enged");
-}
-
-void frm_főablak::free_reward(TextView window, TextView closing_timer) {
-  Window& reward = session_.window(window);
-  if (Element* timer = reward.find(closing_timer)) timer->Enabled = false;
-  platform().show_modal(reward);
-}
-
-void frm_főablak::open_help() {
-  const Text& folder = session_.alapkönyvtár;
-  platform().start_process(folder + u"tintabrowser.exe " + folder + u"cserko\\help\\cserkó súgó.mht",
-                           ProcessWindow::MinimizedWithFocus);
+  MainWindow::zenebeállítások();
 }
 
 void frm_főablak::kilépés() {
   write_order_file(settings());
-  session_.feedback.hang_lejátszás({});
-  session_.feedback.zene_lejátszás({});
+  session().feedback.hang_lejátszás({});
+  session().feedback.zene_lejátszás({});
   delete_work_file(platform());
   platform().end_process();
 }

@@ -2,14 +2,14 @@
 #pragma once
 
 #include "core/decoration.h"
-#include "core/frm_főablak_beállítások.h"
+#include "core/main_window.h"
 #include "platform/element_array.h"
 
 #include <limits>
 
 namespace cserko {
 
-class frm_főablak : public Window {
+class frm_főablak : public MainWindow {
  public:
   explicit frm_főablak(Session& session);
 
@@ -19,16 +19,15 @@ class frm_főablak : public Window {
   Button cmd_súgó{*this, u"cmd_súgó", {10280, 6342, 1960, 917}, u"Súgó"};
   Timer Timer1{*this, u"Timer1", 1, false};
 
-  MenuItem mnu_fájl{*this, u"mnu_fájl", u"&Fájl"};
-  MenuItem mnu_fájl_főablak_beállításai{mnu_fájl, u"mnu_fájl_főablak_beállításai", u"&Főablak beállításai"};
-  MenuItem mnu_file_eseményhangok_beállításai{mnu_fájl, u"mnu_file_eseményhangok_beállításai",
-                                              u"&Eseményhangok beállításai"};
-  MenuItem mnu_fájl_zenebeállítások{mnu_fájl, u"mnu_fájl_zenebeállítások", u"&Zene beállítások"};
+  MenuItem mnu_fájl{*this, u"mnu_fájl", main_menu::file};
+  MenuItem mnu_fájl_főablak_beállításai{mnu_fájl, u"mnu_fájl_főablak_beállításai", main_menu::settings};
+  MenuItem mnu_file_eseményhangok_beállításai{mnu_fájl, u"mnu_file_eseményhangok_beállításai", main_menu::sounds};
+  MenuItem mnu_fájl_zenebeállítások{mnu_fájl, u"mnu_fájl_zenebeállítások", main_menu::music};
   MenuItem mnu_fájl_separator{mnu_fájl, u"mnu_fájl_separator", u"-"};
-  MenuItem mnu_fájl_kilépés{mnu_fájl, u"mnu_fájl_kilépés", u"Kilépés"};
-  MenuItem mnu_jutalomjáték{*this, u"mnu_jutalomjáték", u"Jutalomjáték"};
-  MenuItem mnu_jutalomjáték_dobolás{mnu_jutalomjáték, u"mnu_jutalomjáték_dobolás", u"Dobolás időkorlát nélkül"};
-  MenuItem mnu_jutalom_rajz{mnu_jutalomjáték, u"mnu_jutalom_rajz", u"Rajzolás időkorlát nélkül"};
+  MenuItem mnu_fájl_kilépés{mnu_fájl, u"mnu_fájl_kilépés", main_menu::leave};
+  MenuItem mnu_jutalomjáték{*this, u"mnu_jutalomjáték", main_menu::rewards};
+  MenuItem mnu_jutalomjáték_dobolás{mnu_jutalomjáték, u"mnu_jutalomjáték_dobolás", main_menu::drum};
+  MenuItem mnu_jutalom_rajz{mnu_jutalomjáték, u"mnu_jutalom_rajz", main_menu::drawing};
 
   static constexpr std::int64_t long_ago = std::numeric_limits<std::int32_t>::min();
 
@@ -37,7 +36,7 @@ class frm_főablak : public Window {
   int cserélő = -100;                      ///< Ticks counted towards the next swap of letters.
 
   /// Starts an exercise on the backdrop; the decoration rests meanwhile.
-  void indítás(TextView exercise);
+  void indítás(TextView exercise) override;
   /// The next picture of the slide show with its name.
   void új_kép();
   /// The only way out of this window: ends the program.
@@ -58,14 +57,9 @@ class frm_főablak : public Window {
   void show_slide();
   void swap_letters();
   void főablak_beállításai();
-  void zenebeállítások();
-  void free_reward(TextView window, TextView closing_timer);
+  void zenebeállítások() override;
   void cmd_játék_click(int index);
-  void open_help();
   void rest_decoration();
-  frm_főablak_beállítások& settings() const { return session_.window<frm_főablak_beállítások>(); }
-
-  Session& session_;
 };
 
 } // namespace cserko

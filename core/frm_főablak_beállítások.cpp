@@ -18,12 +18,6 @@ frm_főablak_beállítások::frm_főablak_beállítások(Session& session)
   keep_button_fonts();
 }
 
-void frm_főablak_beállítások::Load() {
-  SettingsDialog::Load();
-  // The option comes alive with the graphic window.
-  chk_grafikus_főablak.Enabled = session().offers(u"frm_grafikus_főablak");
-}
-
 void frm_főablak_beállítások::apply() { write_order_file(*this); }
 
 void read_order_file(frm_főablak_beállítások& settings) {

@@ -14,8 +14,6 @@ class frm_főablak_beállítások : public SettingsDialog {
   CheckBox Chkcserkózás{*this, u"Chkcserkózás", {240, 1320, 4200, 420}, u"Cser&kózás"};
   Button OKButton{*this, u"OKButton", {1440, 1980, 1800, 660}, u"OK"};
 
-  void Load() override;
-
  protected:
   /// Brings the older store up to date as well, or the main window's next activation would undo the choice.
   void apply() override;

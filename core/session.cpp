@@ -3,6 +3,7 @@
 #include "core/frm_folyamat.h"
 #include "core/frm_főablak.h"
 #include "core/frm_főablak_beállítások.h"
+#include "core/frm_grafikus_főablak.h"
 #include "core/frm_referencia.h"
 #include "core/nothing_fits.h"
 #include "core/window_gone.h"
@@ -21,6 +22,7 @@ Text explain(const std::exception& error, const Text& place) {
 
 Session::Session(Platform& platform) : alapkönyvtár(platform.application_folder()), platform_(platform) {
   platform_.host = this;
+  offer<frm_grafikus_főablak>(u"frm_grafikus_főablak");
 }
 
 Session::~Session() {
@@ -180,9 +182,7 @@ Window* Session::load_main_window(bool with_pictures) {
 void Session::run_main_windows() {
   const auto graphic = [this] {
     bool chosen = false;
-    run_start_step([&] {
-      chosen = offers(u"frm_grafikus_főablak") && window<frm_főablak_beállítások>().chk_grafikus_főablak.ticked();
-    });
+    run_start_step([&] { chosen = window<frm_főablak_beállítások>().chk_grafikus_főablak.ticked(); });
     return chosen;
   };
   // The text window leaves by ending the process, so in practice only the graphic one returns here.

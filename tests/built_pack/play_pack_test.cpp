@@ -1,6 +1,7 @@
 // The exercises are played on the words that a child gets.
 #include "core/exercise.h"
 #include "core/frm_főablak.h"
+#include "core/frm_grafikus_főablak.h"
 #include "core/kszöveg.h"
 #include "core/settings.h"
 #include "exercises/letters/frm_cserkó.h"
@@ -67,6 +68,13 @@ TEST_F(BuiltPackTest, LoadsEveryRecordWhole) {
          {&record.név, &record.angol, &record.szótagolt, &record.meghatározás, &record.igaz, &record.hamis})
       EXPECT_FALSE(field->empty()) << i;
   }
+}
+
+TEST_F(BuiltPackTest, EveryPlaceOfTheGraphicMainWindowHasItsPicture) {
+  auto& main = load<frm_grafikus_főablak>();
+  for (int i = 0; i < graphic_place_count; ++i) EXPECT_NE(main.img_játék[i].Picture, nullptr) << i;
+  EXPECT_NE(main.háttér[0].Picture, nullptr);
+  EXPECT_NE(main.drawn_canvas(), nullptr) << "the landscape";
 }
 
 TEST_F(BuiltPackTest, TenThousandDrawsShowEveryRecordButTheLast) {

@@ -17,6 +17,13 @@ bool drawn_kind(ElementKind kind) {
          kind != ElementKind::Shape;
 }
 
+bool is_main(const Window& window) { return window.Name == u"frm_főablak" || window.Name == u"frm_grafikus_főablak"; }
+
+// The entry by which the program is left.
+bool leaves(const Element& item) {
+  return is_main(item.window()) && (item.Name == u"mnu_fájl_kilépés" || item.Name == u"mnu_fájl_kilép");
+}
+
 bool is_leaf(const Element& item) {
   const auto& all = item.window().elements();
   return item.Caption != u"-" &&
@@ -74,14 +81,14 @@ void RestlessPerson::anything(Window& top) {
     press_key(top);
   } else if (choice < 98) {
     wait();
-  } else if (top.Name != u"frm_főablak" || below(10) == 0) {
+  } else if (!is_main(top) || below(10) == 0) {
     hand::close(top);
   }
 }
 
 // By close controls alone, with some patience for what closes by itself.
 void RestlessPerson::go_home(Window& top) {
-  if (top.Name == u"frm_főablak") {
+  if (is_main(top)) {
     until_home_ = events_between_homecomings;
     steps_home_ = 0;
     return;
@@ -118,7 +125,7 @@ void RestlessPerson::click_somewhere(Window& top) {
 
 void RestlessPerson::choose_menu(Window& top) {
   Element* item = any_element(top, [](const Element& e) {
-    return e.kind() == ElementKind::MenuItem && e.usable() && is_leaf(e) && e.Name != u"mnu_fájl_kilépés";
+    return e.kind() == ElementKind::MenuItem && e.usable() && is_leaf(e) && !leaves(e);
   });
   if (item != nullptr) hand::click(*item);
 }
@@ -165,18 +172,21 @@ void RestlessPerson::drag_element(Window& top) {
   if (element != nullptr) hand::drag(*element, within(20000) - 10000, within(20000) - 10000);
 }
 
-// Presses without a release, releases and moves without a press.
+// Presses without a release, releases and moves without a press, also over what no element covers.
 void RestlessPerson::loose_mouse(Window& top) {
   Element* element = any_element(top, [](const Element& e) { return drawn_kind(e.kind()) && e.shown(); });
   if (element == nullptr) return;
   const double x = within(element->Width * 2) - element->Width / 2;
   const double y = within(element->Height * 2) - element->Height / 2;
-  switch (below(3)) {
+  switch (below(4)) {
   case 0:
     hand::press(*element, x, y);
     break;
   case 1:
     hand::move(*element, x, y);
+    break;
+  case 2:
+    input::mouse_move(top, {MouseButton::None, shift::none, x, y});
     break;
   default:
     hand::release(*element, x, y);
@@ -190,8 +200,8 @@ void RestlessPerson::press_key(Window& top) {
   if (choice < 70) {
     hand::key(top, often[static_cast<std::size_t>(below(static_cast<int>(often.size())))], below(6) == 0 ? 1 : 0);
   } else if (choice < 72) {
-    // In the main window Escape leaves the program.
-    if (top.Name != u"frm_főablak" || below(10) == 0) hand::key(top, key::escape);
+    // In a main window Escape leaves the program.
+    if (!is_main(top) || below(10) == 0) hand::key(top, key::escape);
   } else if (choice < 95) {
     hand::key(top, 'A' + below(26), below(4) == 0 ? shift::alt : below(2));
   } else {

@@ -1,6 +1,7 @@
 // From the start of the program to its end: what is prepared in which order, and the two ways out.
 #include "core/frm_folyamat.h"
 #include "core/frm_főablak.h"
+#include "core/frm_grafikus_főablak.h"
 #include "core/frm_referencia.h"
 #include "feedback/frm_hangbeáll.h"
 #include "feedback/frm_zenebeáll.h"
@@ -19,7 +20,6 @@ class MainTest : public SuiteTest {
     assemble();
   }
 
-  void with_graphic_window() { session().offer<GraphicWindow>(u"frm_grafikus_főablak"); }
   void then_leave() {
     then([](Window& window) { hand::key(window, key::escape); });
   }
@@ -153,7 +153,6 @@ TEST_F(MainTest, LeavingTheTextWindowEndsTheProcessWithoutTheLauncher) {
 }
 
 TEST_F(MainTest, ClosingTheGraphicWindowGoesBackToTheLauncher) {
-  with_graphic_window();
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   then_close();
   session().Main();
@@ -165,7 +164,6 @@ TEST_F(MainTest, ClosingTheGraphicWindowGoesBackToTheLauncher) {
 }
 
 TEST_F(MainTest, TheGraphicExitClosesSoundAndMusicBeforeTheLauncherStarts) {
-  with_graphic_window();
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   put_settings(u"zenebeáll.ini", {u" 1 ", u"a.mid"});
   then([this](Window& window) {
@@ -180,7 +178,6 @@ TEST_F(MainTest, TheGraphicExitClosesSoundAndMusicBeforeTheLauncherStarts) {
 }
 
 TEST_F(MainTest, AMissingLauncherIsReportedAndTheProgramEndsAllTheSame) {
-  with_graphic_window();
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   machine.processes_fail = true;
   then_close();
@@ -189,15 +186,9 @@ TEST_F(MainTest, AMissingLauncherIsReportedAndTheProgramEndsAllTheSame) {
   EXPECT_TRUE(machine.ended());
 }
 
-// A window of that name whose load handler fails.
-template<class Tag> struct Unloadable : PlainWindow {
-  explicit Unloadable(Session& session) : PlainWindow(session, u"unloadable") {}
-  void Load() override { throw std::runtime_error("the window does not load"); }
-};
-
 TEST_F(MainTest, WhatFailsInThePreparationIsToldAndTheMainWindowComesAllTheSame) {
-  session().offer<Unloadable<struct Sounds>>(u"frm_hangbeáll");
-  session().offer<Unloadable<struct Music>>(u"frm_zenebeáll");
+  session().offer<UnloadableWindow>(u"frm_hangbeáll");
+  session().offer<UnloadableWindow>(u"frm_zenebeáll");
   bool came = false;
   then([&](Window& window) {
     came = true;
@@ -213,7 +204,7 @@ TEST_F(MainTest, WhatFailsInThePreparationIsToldAndTheMainWindowComesAllTheSame)
 }
 
 TEST_F(MainTest, AGraphicWindowThatDoesNotLoadGivesWayToTheTextWindow) {
-  session().offer<Unloadable<struct Graphic>>(u"frm_grafikus_főablak");
+  session().offer<UnloadableWindow>(u"frm_grafikus_főablak");
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   then_leave();
   session().Main();
@@ -249,7 +240,6 @@ TEST_F(MainTest, AStaleWorkFileStaysUntilTheTextWindowIsLeft) {
 }
 
 TEST_F(MainTest, AStaleWorkFileStaysUntilTheGraphicWindowIsLeft) {
-  with_graphic_window();
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   machine.files().put(Text(user_folder) + u"temp.bmp", "old");
   then([this](Window& window) {
@@ -269,7 +259,6 @@ TEST_F(MainTest, AWorkFileThatCannotBeDeletedDoesNotKeepTheProgram) {
 }
 
 TEST_F(MainTest, UntickingTheGraphicOptionBringsTheTextWindowWithoutANewStart) {
-  with_graphic_window();
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   then([this](Window& window) {
     load<frm_főablak_beállítások>().chk_grafikus_főablak.set_value(0);
@@ -283,7 +272,6 @@ TEST_F(MainTest, UntickingTheGraphicOptionBringsTheTextWindowWithoutANewStart) {
 }
 
 TEST_F(MainTest, TickingTheGraphicOptionBringsTheGraphicWindowAndUntickingTheTextWindowAgain) {
-  with_graphic_window();
   then_in<frm_főablak>([](frm_főablak& window) {
     hand::click(window.mnu_fájl_főablak_beállításai);
     EXPECT_TRUE(window.visible());
@@ -309,7 +297,6 @@ TEST_F(MainTest, TickingTheGraphicOptionBringsTheGraphicWindowAndUntickingTheTex
 }
 
 TEST_F(MainTest, ClosingTheGraphicWindowThatTheTextWindowOpenedEndsWithoutTheLauncher) {
-  with_graphic_window();
   then_in<frm_főablak>([](frm_főablak& window) { hand::click(window.mnu_fájl_főablak_beállításai); });
   then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
     hand::click(dialog.chk_grafikus_főablak);
@@ -321,11 +308,73 @@ TEST_F(MainTest, ClosingTheGraphicWindowThatTheTextWindowOpenedEndsWithoutTheLau
   EXPECT_TRUE(machine.processes.empty());
 }
 
-TEST_F(MainTest, WithoutAGraphicWindowTheOptionIsOfNoEffect) {
+TEST_F(MainTest, TheWholeRoadLeadsThroughBothWindowsAndAnExerciseAndOutOfTheTextWindow) {
+  offer_stand_ins(session());
+  machine.files().put(Text(user_folder) + u"temp.bmp", "old");
+  then_in<frm_főablak>([](frm_főablak& window) {
+    hand::click(window.mnu_fájl_főablak_beállításai);
+    EXPECT_TRUE(window.visible());
+    hand::key(window, key::escape);
+  });
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  then_in<frm_grafikus_főablak>([](frm_grafikus_főablak& window) {
+    hand::click(window.img_játék[15]);
+    EXPECT_TRUE(window.visible());
+    hand::click(window.mnu_fájl_főablak_beáll);
+  });
+  then([](Window& exercise) { hand::close(exercise); });
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  session().Main();
+  EXPECT_EQ(machine.diary({"modal", "end"}),
+            (Diary{"modal frm_főablak", "modal frm_főablak_beállítások", "modal frm_grafikus_főablak",
+                   "modal frmháttér", "modal frm_lóugrás", "modal frm_főablak_beállítások", "end"}));
+  EXPECT_EQ(machine.count("load FrmFolyamat"), 1);
+  EXPECT_EQ(machine.count("load frm_főablak_beállítások"), 1);
+  EXPECT_EQ(settings(u"főablak.ini"), " 0 \r\n 0 \r\n 0 \r\n");
+  EXPECT_TRUE(machine.processes.empty());
+  EXPECT_FALSE(work_file_exists());
+}
+
+TEST_F(MainTest, UntickedInTheGraphicWindowThatTheProgramOpenedTheTextWindowFollows) {
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  then_in<frm_grafikus_főablak>([](frm_grafikus_főablak& window) { hand::click(window.mnu_fájl_főablak_beáll); });
+  then_in<frm_főablak_beállítások>([](frm_főablak_beállítások& dialog) {
+    hand::click(dialog.chk_grafikus_főablak);
+    hand::click(dialog.OKButton);
+  });
+  then_leave();
+  session().Main();
+  EXPECT_EQ(machine.diary({"modal", "end"}),
+            (Diary{"modal frm_grafikus_főablak", "modal frm_főablak_beállítások", "modal frm_főablak", "end"}));
+  EXPECT_EQ(machine.count("load FrmFolyamat"), 1);
+  EXPECT_TRUE(machine.processes.empty());
+}
+
+TEST_F(MainTest, EscapeInTheGraphicWindowGoesBackToTheLauncher) {
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   then_leave();
   session().Main();
-  EXPECT_EQ(machine.count("modal frm_főablak"), 1);
+  ASSERT_EQ(machine.processes.size(), 1U);
+  EXPECT_EQ(utf8(machine.processes[0].command_line), "c:\\cserko\\portál.exe klki");
+}
+
+TEST_F(MainTest, AFirstExerciseOpensFromTheGraphicWindowToo) {
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  session().first_exercise = u"frm_cserkó";
+  std::string first;
+  then([&](Window& window) {
+    first = utf8(window.Name);
+    hand::close(window);
+  });
+  then_close();
+  session().Main();
+  EXPECT_EQ(first, "frm_cserkó");
 }
 
 } // namespace

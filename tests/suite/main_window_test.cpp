@@ -38,15 +38,6 @@ const std::vector<ExpectedButton> expected_buttons{{"&Cserkó", "frm_cserkó"},
                                                    {"&Mondatpárosító", "frm_párosító"},
                                                    {"Szó&Villám", "frm_szóvillám"}};
 
-// A stand-in for the exercise of a button: it bears its name.
-template<std::size_t Number> struct StandIn : PlainWindow {
-  explicit StandIn(Session& session) : PlainWindow(session, from_utf8(expected_buttons[Number].window)) {}
-};
-
-template<std::size_t... Numbers> void offer_stand_ins(Session& session, std::index_sequence<Numbers...>) {
-  (session.offer<StandIn<Numbers>>(from_utf8(expected_buttons[Numbers].window)), ...);
-}
-
 class MainWindowTest : public SuiteTest {
  protected:
   MainWindowTest() {
@@ -113,7 +104,7 @@ TEST_F(MainWindowTest, AButtonWithoutAnExerciseIsDisabled) {
 }
 
 TEST_F(MainWindowTest, EveryButtonStartsItsExercise) {
-  offer_stand_ins(session(), std::make_index_sequence<20>());
+  offer_stand_ins(session());
   auto& main = window();
   for (int i = 0; i < 20; ++i) {
     std::string shown;
@@ -274,12 +265,6 @@ TEST_F(MainWindowTest, MusicStaysSilentAfterItsSettingsIfItWasTurnedOff) {
   hand::click(main.mnu_fájl_zenebeállítások);
   EXPECT_FALSE(load<frm_referencia>().Timer_zene.Enabled);
 }
-
-// A window whose load handler fails.
-struct UnloadableWindow : PlainWindow {
-  explicit UnloadableWindow(Session& session) : PlainWindow(session, u"unloadable") {}
-  void Load() override { throw std::runtime_error("the window does not load"); }
-};
 
 TEST_F(MainWindowTest, TheDecorationGoesOnWhenTheBackdropDoesNotLoad) {
   auto& main = window();

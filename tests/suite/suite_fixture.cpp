@@ -1,6 +1,7 @@
 #include "tests/suite/suite_fixture.h"
 
 #include "core/codepage.h"
+#include "core/exercise_table.h"
 #include "feedback/message_panels.h"
 
 #include <algorithm>
@@ -157,6 +158,20 @@ void SuiteTest::expect_fitted(const Element& element, double points) {
   font.size -= 1;
   EXPECT_FALSE(too_large()) << to_utf8(element.Name);
 }
+
+namespace {
+
+template<std::size_t Number> struct StandIn : PlainWindow {
+  explicit StandIn(Session& session) : PlainWindow(session, exercise_table[Number].window) {}
+};
+
+template<std::size_t... Numbers> void offer_each(Session& session, std::index_sequence<Numbers...>) {
+  (session.offer<StandIn<Numbers>>(exercise_table[Numbers].window), ...);
+}
+
+} // namespace
+
+void offer_stand_ins(Session& session) { offer_each(session, std::make_index_sequence<exercise_table.size()>()); }
 
 const RecordedCanvas& drawn(PictureBox& box) { return dynamic_cast<const RecordedCanvas&>(box.canvas()); }
 

@@ -22,14 +22,20 @@ class PlainWindow : public Window {
       : Window(session.platform(), name, design, name) {}
 };
 
-/// The graphic main window and the drawing reward as the suite knows them: by name alone.
-struct GraphicWindow : PlainWindow {
-  explicit GraphicWindow(Session& session) : PlainWindow(session, u"frm_grafikus_főablak") {}
-};
+/// The drawing reward as the suite knows it: by name alone.
 struct DrawingWindow : PlainWindow {
   explicit DrawingWindow(Session& session) : PlainWindow(session, u"frm_rajz") {}
   Timer Timer2{*this, u"Timer2", 120000};
 };
+
+/// A window whose load handler fails.
+struct UnloadableWindow : PlainWindow {
+  explicit UnloadableWindow(Session& session) : PlainWindow(session, u"unloadable") {}
+  void Load() override { throw std::runtime_error("the window does not load"); }
+};
+
+/// Offers an empty window under the name of each exercise.
+void offer_stand_ins(Session& session);
 
 /// The headless machine with a diary of what the suite does, in order: windows, media commands, seedings, programs.
 class DiaryPlatform : public HeadlessPlatform {
