@@ -3,6 +3,7 @@
 #include "core/exercise_table.h"
 #include "core/frame.h"
 #include "core/frm_főablak.h"
+#include "core/frm_grafikus_főablak.h"
 #include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_hangbeáll.h"
 #include "feedback/frm_zenebeáll.h"
@@ -11,6 +12,7 @@
 #include "platform/input.h"
 #include "tests/tour/drawing_stops.h"
 #include "tests/tour/exercise_stops.h"
+#include "tests/tour/tour_hand.h"
 
 #include <algorithm>
 
@@ -61,6 +63,35 @@ void lay_out_figures(Guide& guide, Session& session) {
     guide.picture(main_window, "main-figure-" + std::to_string(figure), true);
   }
   guide.act(main_window, [&session](Window&) { session.window<frm_főablak_beállítások>().rajz.set_value(0); });
+}
+
+// There by the settings and back again: in between the same entry stands in the menu of the other window.
+void lay_out_graphic_window(Guide& guide) {
+  constexpr TextView graphic = u"frm_grafikus_főablak";
+  constexpr TextView settings = u"frm_főablak_beállítások";
+  const auto change_over = [&] {
+    guide.act(settings, [](Window& window) {
+      auto& dialog = as<frm_főablak_beállítások>(window);
+      input::toggle(dialog.chk_grafikus_főablak);
+      input::click(dialog.OKButton);
+    });
+  };
+  guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_főablak_beállításai); });
+  change_over();
+  guide.picture(graphic, "graphic");
+  guide.act(graphic, [](Window& window) {
+    input::mouse_move(as<frm_grafikus_főablak>(window).img_játék[7], {MouseButton::None, shift::none, 300, 300});
+  });
+  guide.picture(graphic, "graphic-lit");
+  guide.act(graphic, [](Window&) { press_key(Qt::Key_Down); });
+  guide.picture(graphic, "graphic-lit-by-keyboard");
+  guide.act(graphic, [](Window& window) {
+    touch_mouse();
+    input::mouse_move(as<frm_grafikus_főablak>(window).lbl_feladat[19], {MouseButton::None, shift::none, 60, 60});
+  });
+  guide.picture(graphic, "graphic-longest-name-lit");
+  guide.act(graphic, [](Window& window) { input::click(as<frm_grafikus_főablak>(window).mnu_fájl_főablak_beáll); });
+  change_over();
 }
 
 void lay_out_sounds(Guide& guide) {
@@ -175,8 +206,11 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.for_help("main-slide-show", "main_window", 602);
   guide.for_help("event-sounds-selected", "event_sounds", 642);
   guide.for_help("music-selected-in-both-lists", "music", 522);
+  guide.for_help("graphic-lit", "graphic_main_window", 602);
+  guide.intended.push_back({u"frm_grafikus_főablak", u"img_játék", u"háttér"}); // the light lies around the picture
   lay_out_main_window(guide, session);
   lay_out_figures(guide, session);
+  lay_out_graphic_window(guide);
   lay_out_sounds(guide);
   lay_out_music(guide);
   lay_out_drum(guide);
