@@ -16,7 +16,7 @@ constexpr double gap = 90;      // twips between the spellings
 constexpr int inner_kinds = 3;  // different letters between the first and the last
 constexpr Color red{255, 0, 0}; // of the right answer
 constexpr TextView advice =
-    u"Nincs elég ilyen szavunk, amelyiknek ennyiféleképpen keverhetők a betűi.\r\nKérlek, engedj meg a beállításokban "
+    u"Nincs elég olyan szavunk, amelyiknek ennyiféleképpen keverhetők a betűi.\r\nKérlek, engedj meg a beállításokban "
     u"rövidebb vagy hosszabb szavakat, vagy kérj kevesebb választási lehetőséget!";
 
 std::vector<Text> letters_of(const Text& word, bool english) {

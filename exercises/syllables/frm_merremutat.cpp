@@ -15,7 +15,7 @@ constexpr TextView no_pictures =
     u"Nem találom azokat a képeket, amelyek mutatnak valamerre.\r\nKérlek, szólj egy felnőttnek: a programot újra "
     u"kell telepíteni!";
 constexpr TextView none_that_way =
-    u"Nincs olyan képünk, amelyik erre mutat.\r\nKérlek, válassz a beállításokban más irányokat!";
+    u"Nincs olyan képünk, amelyik a kért irányba mutat.\r\nKérlek, válassz a beállításokban más irányokat!";
 
 struct Irányszó {
   TextView in_file_names;

@@ -267,7 +267,7 @@ TEST_F(LetterMixUpTest, WhereNothingFitsTheWindowStaysTellsWhyAndTheSettingsHelp
   start();
   then_close_message();
   auto& window = open_exercise();
-  EXPECT_EQ(message, "Nincs elég ilyen szavunk, amelyiknek ennyiféleképpen keverhetők a betűi.\r\nKérlek, engedj meg a "
+  EXPECT_EQ(message, "Nincs elég olyan szavunk, amelyiknek ennyiféleképpen keverhetők a betűi.\r\nKérlek, engedj meg a "
                      "beállításokban rövidebb vagy hosszabb szavakat, vagy kérj kevesebb választási lehetőséget!");
   EXPECT_EQ(picture(window.kép), "(none)");
   EXPECT_EQ(captions(window.lbl_szó), nothing(4));

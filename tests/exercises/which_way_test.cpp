@@ -312,7 +312,7 @@ class WhichWayMissingTest : public WhichWayFixture {
       "Nem találom azokat a képeket, amelyek mutatnak valamerre.\r\nKérlek, szólj egy felnőttnek: a programot újra "
       "kell telepíteni!";
   static inline const std::string none_that_way =
-      "Nincs olyan képünk, amelyik erre mutat.\r\nKérlek, válassz a beállításokban más irányokat!";
+      "Nincs olyan képünk, amelyik a kért irányba mutat.\r\nKérlek, válassz a beállításokban más irányokat!";
 };
 
 TEST_F(WhichWayMissingTest, WithoutACollectionItIsTold) { EXPECT_EQ(told(), no_pictures); }
