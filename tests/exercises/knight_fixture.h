@@ -148,4 +148,37 @@ class KnightTest : public ExerciseTest {
   bool begun_ = false;
 };
 
+/// The same with what is looked at while it is played.
+class KnightPlayTest : public KnightTest {
+ protected:
+  static constexpr Color dark_green{0, 120, 0};
+  static constexpr Color light_green{0, 200, 0};
+  static constexpr Color yellow{255, 255, 0};
+  static constexpr Color blue{0, 0, 128};
+  static inline const std::string full_message =
+      "Kérlek, nézd át még egyszer! Ha a képre kattintasz, segítséget kapsz!";
+
+  /// "alma" from the corner: (2, 1), (4, 2), (3, 4), (4, 6).
+  frm_lóugrás& alma(Wanted wanted = {}) { return board(1, {0, 0}, {7, 7, 1, 8}, std::move(wanted)); }
+  static std::string ground(const frm_lóugrás& window, Square square) {
+    const Color color = window.field(square).BackColor;
+    if (color == dark_green) return "dark green";
+    if (color == light_green) return "light green";
+    return color == window.mezőszín(square.column, square.row) ? "own" : "other";
+  }
+  static Point center(const Element& element) {
+    return {element.Left + element.Width / 2, element.Top + element.Height / 2};
+  }
+  static std::string colors(const frm_lóugrás& window) {
+    std::string all;
+    window.Line1.each([&](const Line& line) {
+      all += line.ForeColor == yellow ? "y" : line.ForeColor == blue ? "b" : "?";
+    });
+    return all;
+  }
+  static void key(Window& window, int code, int times = 1) {
+    for (int i = 0; i < times; ++i) hand::key(window, code);
+  }
+};
+
 } // namespace cserko
