@@ -287,6 +287,9 @@ TEST_F(WordChain, ADragLetsGoOfWhatAClickHasTakenUp) {
   EXPECT_EQ(row(window), row_of({-1, -1, -1, -1, 1, -1, -1}));
   EXPECT_FALSE(window.chosen());
   EXPECT_TRUE(pool(window, 2).Visible);
+  hand::click(pool(window, 2));
+  hand::drag_to(pool(window, 3), {20, 20}, {5, 5});
+  EXPECT_FALSE(window.chosen()) << "also where it ends nowhere";
 }
 
 TEST_F(WordChain, APressOnThePlaceSendsItsPictureBack) {
