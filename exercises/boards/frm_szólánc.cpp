@@ -169,7 +169,9 @@ void frm_szólánc::stop_carrying() {
 }
 
 void frm_szólánc::Load() {
-  settings();
+  take_settings();
+  ablak_állítás();
+  ablak_középre(session(), *this);
   deal_first([this] { új_lánc(); });
 }
 
