@@ -15,6 +15,7 @@ constexpr TextView text_font = u"Times New Roman";
 constexpr double margin = 120;
 constexpr double smallest_font = 6;
 constexpr double largest_font = 2000;
+constexpr double text_share = 0.9; // of a box, for the text in it
 
 bool has_place(const Element& element) {
   return element.kind() != ElementKind::Timer && element.kind() != ElementKind::MenuItem;
@@ -65,12 +66,6 @@ void give_look(Element& element, const Window& reference, bool color_swatches) {
   }
 }
 
-void print_centered(PictureBox& box, TextView text) {
-  const Size extent = box.window().platform().measure(box.Font, text);
-  box.canvas().print({box.Width / 2 - extent.width / 2, box.Height / 2 - extent.height / 2}, text, box.Font,
-                     box.ForeColor);
-}
-
 // The text with line breaks instead of blanks where a line would be wider than the limit; a longer word stays whole.
 Text broken_into_lines(const Platform& platform, const Font& font, TextView text, double width) {
   Text lines;
@@ -97,7 +92,8 @@ void fit_picture_box(PictureBox& box, Text& text) {
   if (text.empty()) text = u"Kéne írni ide valamit!";
   box.Font.name = text_font;
   box.Font.size = 8;
-  box.Font.size = first_overfilling_size(box.window().platform(), box.Font, text, {0.9 * box.Width, 0.9 * box.Height});
+  box.Font.size = first_overfilling_size(box.window().platform(), box.Font, text,
+                                         {text_share * box.Width, text_share * box.Height});
   print_centered(box, text);
   box.Tag = text;
 }
@@ -110,7 +106,7 @@ void fit_caption(Element& control, Text& text) {
   const bool button = control.kind() == ElementKind::Button;
   const double width = button ? face_of(static_cast<const Button&>(control)).caption.width : control.Width;
   control.Font.size = first_overfilling_size(control.window().platform(), font, without_mnemonic(text),
-                                             {0.9 * width, 0.9 * control.Height});
+                                             {text_share * width, text_share * control.Height});
   if (control.kind() == ElementKind::Label) {
     static_cast<Label&>(control).set_caption(text);
   } else {
@@ -255,23 +251,34 @@ void fit_wrapped(Label& label, TextView text) {
 void fit_printed(PictureBox& box, const Text& text, double smallest_line) {
   szöveg_illesztés(box, Text(text));
   if (box.Font.size >= smallest_line) return;
-  const Platform& platform = box.window().platform();
-  const Size limits{0.9 * box.Width, 0.9 * box.Height};
-  Text best;
-  double best_size = box.Font.size;
-  Font font = box.Font;
-  while (font.size < largest_font) {
-    font.size += 1;
-    Text lines = broken_into_lines(platform, font, text, limits.width);
-    const Size extent = platform.measure(font, lines);
-    if (extent.width > limits.width || extent.height > limits.height) break;
-    best = std::move(lines);
-    best_size = font.size;
-  }
-  if (best.empty()) return;
+  const double size = largest_broken_size(box, text);
+  if (size <= box.Font.size) return;
   box.canvas().clear();
-  box.Font.size = best_size;
-  print_centered(box, best);
+  box.Font.size = size;
+  print_broken(box, text);
+}
+
+void print_centered(PictureBox& box, TextView text) {
+  const Size extent = box.window().platform().measure(box.Font, text);
+  box.canvas().print({box.Width / 2 - extent.width / 2, box.Height / 2 - extent.height / 2}, text, box.Font,
+                     box.ForeColor);
+}
+
+void print_broken(PictureBox& box, TextView text) {
+  print_centered(box, broken_into_lines(box.window().platform(), box.Font, text, text_share * box.Width));
+}
+
+double largest_broken_size(const PictureBox& box, TextView text) {
+  const Platform& platform = box.window().platform();
+  const Size limits{text_share * box.Width, text_share * box.Height};
+  Font font = box.Font;
+  font.size = smallest_font;
+  while (font.size < largest_font) {
+    const Size extent = platform.measure(font, broken_into_lines(platform, font, text, limits.width));
+    if (extent.width > limits.width || extent.height > limits.height) break;
+    font.size += 1;
+  }
+  return font.size > smallest_font ? font.size - 1 : 0;
 }
 
 void show_record_picture(Session& session, PictureBox& box, int index) {

@@ -57,6 +57,15 @@ void fit_wrapped(Label& label, TextView text);
 /// points, on several lines, as large as fits. Leaves the text in the box's `Tag`.
 void fit_printed(PictureBox& box, const Text& text, double smallest_line);
 
+/// Prints a text in the middle of a box, in the box's font.
+void print_centered(PictureBox& box, TextView text);
+
+/// The same on several lines, broken at blanks where a line would take more than nine tenths of the box's width.
+void print_broken(PictureBox& box, TextView text);
+
+/// The largest size, points, at which a text that is so broken takes at most nine tenths of the box; 0 if none does.
+double largest_broken_size(const PictureBox& box, TextView text);
+
 /// Opens a page of the help in the viewer, maximised. Throws std::runtime_error where the viewer cannot be started.
 void súgó_megnyitás(Session& session, TextView page);
 

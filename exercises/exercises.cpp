@@ -14,6 +14,7 @@
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_képhatározó.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/sentences/frm_párosító.h"
 #include "exercises/sentences/frm_szóvillám.h"
 #include "exercises/syllables/frm_holvan.h"
 #include "exercises/syllables/frm_merremutat.h"
@@ -37,6 +38,7 @@ void install_exercises(Session& session) {
   session.offer<frm_merremutat>(u"frm_merremutat");
   session.offer<frm_lóugrás>(u"frm_lóugrás");
   session.offer<frm_mondatkép>(u"frm_mondatkép");
+  session.offer<frm_párosító>(u"frm_párosító");
   session.offer<frm_szólánc>(u"frm_szólánc");
   session.offer<frm_szótagkereső>(u"frm_szótagkereső");
   session.offer<frm_szótagoló>(u"frm_szótagoló");
