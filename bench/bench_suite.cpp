@@ -17,6 +17,8 @@
 #include "exercises/letters/frm_cserkó.h"
 #include "exercises/sentences/frm_igazhamis.h"
 #include "exercises/sentences/frm_mondatkép.h"
+#include "exercises/sentences/frm_párosító.h"
+#include "exercises/sentences/frm_szóvillám.h"
 #include "exercises/syllables/frm_holvan.h"
 #include "exercises/syllables/frm_merremutat.h"
 #include "exercises/syllables/frm_szótagkereső.h"
@@ -207,6 +209,7 @@ void put_for_all(MemoryFiles& files) {
     put_record(files, i * one_in + 2,
                {u"almafavirág" + Text(1, static_cast<char16_t>(u'a' + i)), {}, u"al-ma-fa-vi-rág"});
   files.put(Text(user_folder) + u"holvan.ini", " 12 \r\n 12 \r\nTrue\r\nFalse\r\nFalse\r\n");
+  files.put(Text(user_folder) + u"szóvillám.ini", " 10 \r\n 17 \r\n 1 \r\n 0 \r\n 0 \r\nTrue\r\nFalse\r\n");
   for (int i = 1; i <= 40; ++i) {
     const Text motif = Text(app) + u"irkep\\" + to_text(i);
     files.put(motif + u".swm", "Merre");
@@ -325,6 +328,8 @@ BENCHMARK_CAPTURE(deal, sentence_to_picture, &frm_mondatkép::feladat_kirakása)
 BENCHMARK_CAPTURE(deal, true_or_false, &frm_igazhamis::feladat_kirakása)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1000);
+BENCHMARK_CAPTURE(deal, sentence_pairing, &frm_párosító::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
+BENCHMARK_CAPTURE(deal, word_flash, &frm_szóvillám::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, where_is_it, &frm_holvan::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 BENCHMARK_CAPTURE(deal, which_way, &frm_merremutat::beáll)->Unit(benchmark::kMillisecond)->Iterations(1000);
 

@@ -8,7 +8,6 @@
 #include "platform/input.h"
 #include "tests/suite/memory_pack.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -106,11 +105,4 @@ BENCHMARK_CAPTURE(Slide, column, key::down)->Unit(benchmark::kMillisecond)->Iter
 
 } // namespace
 
-int main(int argc, char** argv) {
-  const QTemporaryDir folder;
-  qputenv("CSERKO_USER_DIR", folder.path().toUtf8());
-  qputenv("SDL_AUDIODRIVER", "dummy");
-  if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  return run_measurements(argc, argv);
-}
+int main(int argc, char** argv) { return cserko::measure_on_screen(argc, argv); }

@@ -1,11 +1,13 @@
 // The suite on the real machine, for measurements.
 #pragma once
 
+#include "bench/limits.h"
 #include "exercises/exercises.h"
 #include "feedback/feedback.h"
 #include "platform/qt/qt_platform.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QTemporaryDir>
 #include <QThread>
 #include <chrono>
 
@@ -38,5 +40,15 @@ template<class Machine = QtPlatform> struct Stage {
   Machine machine;
   Session session{machine};
 };
+
+/// The whole of a program that measures windows in silence, with a user's folder of its own.
+inline int measure_on_screen(int argc, char** argv) {
+  const QTemporaryDir folder;
+  qputenv("CSERKO_USER_DIR", folder.path().toUtf8());
+  qputenv("SDL_AUDIODRIVER", "dummy");
+  if (qEnvironmentVariableIsEmpty("DISPLAY")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  return run_measurements(argc, argv);
+}
 
 } // namespace cserko
