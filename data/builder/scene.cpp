@@ -141,8 +141,8 @@ void station(QPainter& painter, const GraphicPlace& place) {
   disc(painter, kShade, middle + QPointF(0, 40), kPlateRadius + 30, kPlateRadius + 20);
   disc(painter, kPlateEdge, middle, kPlateRadius, kPlateRadius);
   disc(painter, kPlate, middle, kPlateRadius - 32, kPlateRadius - 32);
-  round_box(painter, kBoardEdge, board.adjusted(-10, -14, 10, 14), 110);
-  round_box(painter, kBoard, board.adjusted(22, 18, -22, -18), 84);
+  round_box(painter, kBoardEdge, board.adjusted(-75, -14, 75, 14), 110);
+  round_box(painter, kBoard, board.adjusted(-43, 18, 43, -18), 84);
 }
 
 QByteArray landscape(const IconSet& icons) {
