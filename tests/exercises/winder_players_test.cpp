@@ -13,7 +13,7 @@ class WinderPlayersTest : public WinderTest {
  protected:
   WinderPlayersTest() {
     put_words();
-    put_settings(u"verem.ini", {u" 8 ", u" 5 ", u" 1 ", u" 1 ", u" 2 ", u" 0 ", u" 1 "});
+    put_settings(u"verem.ini", {u" 8 ", u" 5 ", u" 2 ", u" 1 ", u" 2 ", u" 0 ", u" 1 "});
     start();
   }
   void play(VeremPlayer& player, int won, int lost) {

@@ -2,6 +2,7 @@
 
 #include "tests/players/played_exercise.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace cserko {
@@ -10,6 +11,8 @@ namespace {
 
 constexpr int columns = frmverem::columns;
 constexpr int middle = frmverem::middle;
+constexpr int shortest_stray = 3; // moves
+constexpr int most_doublings = 7;
 
 // The way round that is shorter, towards the right above 0.
 int shorter_turn(int from, int to) {
@@ -47,9 +50,31 @@ bool VeremPlayer::play(Window& window, Hand& hand) {
     do_move(game, {.turn = 1}, hand);
     return true;
   }
-  const std::optional<Move> move = next_move(game);
+  if (been_here(game)) astray_ = shortest_stray << std::min(++strays_, most_doublings);
+  const bool strays = astray_ > 0;
+  if (strays) --astray_;
+  const std::optional<Move> move = strays ? any_move() : next_move(game);
   do_move(game, move ? *move : Move{.turn = 1}, hand);
   return true;
+}
+
+// What looks best here may lead there and back again for ever. A board that was seen before is left by chance, the
+// farther the more often that happens before a picture goes.
+bool VeremPlayer::been_here(const frmverem& game) {
+  if (const int letters = game.letters_on_board(); letters != letters_) {
+    letters_ = letters;
+    strays_ = 0;
+    boards_.clear();
+  }
+  Text board = to_text(game.kurzor());
+  game.betű.each([&](const Label& letter) { board += letter.Caption + u","; });
+  return !boards_.insert(board).second;
+}
+
+VeremPlayer::Move VeremPlayer::any_move() {
+  const int way = chance_() % 2 == 0 ? 1 : -1;
+  if (chance_() % 2 == 0) return {.turn = way};
+  return {.column = static_cast<int>(chance_() % columns), .push = way};
 }
 
 void VeremPlayer::do_move(frmverem& game, const Move& move, Hand& hand) {
@@ -69,19 +94,21 @@ void VeremPlayer::do_move(frmverem& game, const Move& move, Hand& hand) {
   }
 }
 
-// For the first picture that can be solved.
-std::optional<VeremPlayer::Move> VeremPlayer::next_move(const frmverem& game) {
-  std::optional<Move> found;
+// For the first picture that can be solved, or for a later one after each time that this has led nowhere.
+std::optional<VeremPlayer::Move> VeremPlayer::next_move(const frmverem& game) const {
+  std::vector<Move> moves;
   game.kép.each([&](const PictureBox& slot) {
-    if (found || !slot.Visible) return;
+    if (static_cast<int>(moves.size()) > strays_ || !slot.Visible) return;
     kszöveg word;
     word.szövegnyelv(game.nyelv());
     word.value(slot.Tag);
     Letters letters;
     for (int i = 1; i <= word.MAGYARBETŰKSZÁMA(); ++i) letters.push_back(word.szóbetűje(int(i)));
-    if (letters.size() <= columns) found = move_for(game, letters);
+    if (letters.size() > columns) return;
+    if (const auto move = move_for(game, letters)) moves.push_back(*move);
   });
-  return found;
+  if (moves.empty()) return std::nullopt;
+  return moves[static_cast<std::size_t>(strays_) % moves.size()];
 }
 
 std::optional<VeremPlayer::Move> VeremPlayer::move_for(const frmverem& game, const Letters& word) {

@@ -6,6 +6,8 @@
 #include "tests/players/exercise_player.h"
 
 #include <optional>
+#include <random>
+#include <set>
 
 namespace cserko {
 
@@ -32,11 +34,13 @@ class VeremPlayer : public ExercisePlayer {
   };
   using Letters = std::vector<Text>;
 
-  static std::optional<Move> next_move(const frmverem& game);
+  std::optional<Move> next_move(const frmverem& game) const;
   static std::optional<Move> move_for(const frmverem& game, const Letters& word);
   static std::optional<Move> fetch(const frmverem& game, const Text& letter, int place, int begin, int length);
   static std::optional<Move> fetch_from_column(const frmverem& game, const Text& letter, int place, int column);
   static std::optional<Move> bury(const frmverem& game, const Text& letter, int begin, int length);
+  bool been_here(const frmverem& game);
+  Move any_move();
   void do_move(frmverem& game, const Move& move, Hand& hand);
 
   int games_until_loss_;
@@ -44,6 +48,11 @@ class VeremPlayer : public ExercisePlayer {
   int sets_before_ = 0;
   bool waits_ = false;
   int losses_ = 0;
+  std::set<Text> boards_; ///< Since a picture came or went.
+  int letters_ = 0;       ///< On the board then.
+  int strays_ = 0;        ///< How often it was left by chance since.
+  std::minstd_rand chance_;
+  int astray_ = 0; ///< Moves that are still left to chance.
 };
 
 } // namespace cserko

@@ -1,5 +1,5 @@
 // Somebody draws without end on the real machine's drawing board and opens it anew now and then. Every state that is
-// kept is told: "keeping HASH" before it is written, "kept HASH" behind it. Meant to be killed at any moment.
+// kept is told: as `TellingFiles` does. Meant to be killed at any moment.
 //
 // The clock runs a thousand times as fast, so that what is kept every 20 seconds is kept every 20 milliseconds.
 //
@@ -10,42 +10,16 @@
 #include "feedback/frm_rajz.h"
 #include "platform/input.h"
 #include "platform/qt/qt_platform.h"
+#include "tests/kills/telling_files.h"
 
 #include <QApplication>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
 #include <random>
 
 namespace {
 
 using namespace cserko;
-
-/// The disk, with a word before and behind each write of a drawing.
-class TellingFiles : public Files {
- public:
-  explicit TellingFiles(QtFiles& files) : files_(files) {}
-
-  std::vector<Text> list(const Text& pattern) const override { return files_.list(pattern); }
-  bool exists(const Text& path) const override { return files_.exists(path); }
-  std::optional<std::string> read(const Text& path) const override { return files_.read(path); }
-  void make_folder(const Text& path) override { files_.make_folder(path); }
-  void remove(const Text& path) override { files_.remove(path); }
-  void write(const Text& path, std::string_view bytes) override {
-    const std::size_t hash = std::hash<std::string_view>()(bytes);
-    tell("keeping", hash);
-    files_.write(path, bytes);
-    tell("kept", hash);
-  }
-
- private:
-  static void tell(const char* what, std::size_t hash) {
-    std::printf("%s %zx\n", what, hash);
-    std::fflush(stdout);
-  }
-
-  QtFiles& files_;
-};
 
 class QuickMachine : public QtPlatform {
  public:

@@ -1,0 +1,62 @@
+#include "tests/kills/kill.h"
+
+#include <QList>
+#include <QProcess>
+#include <functional>
+#include <stdexcept>
+#include <string_view>
+
+namespace cserko {
+
+namespace {
+
+constexpr int patience = 60000; // ms for the program to begin
+
+void note(Fate& fate, bool kept, const QByteArray& hash) {
+  (kept ? fate.last : fate.last_begun) = hash;
+  fate.kept += kept ? 1 : 0;
+  fate.in_write = !kept;
+}
+
+Life life_of(const QByteArray& told) {
+  Life life;
+  for (const QByteArray& line : told.split('\n')) {
+    const bool kept = line.startsWith("kept ");
+    if (!kept && !line.startsWith("keeping ")) continue;
+    const QByteArray rest = line.mid(line.indexOf(' ') + 1);
+    const QByteArray hash = rest.left(rest.indexOf(' '));
+    note(life.whole, kept, hash);
+    note(life.files[QString::fromUtf8(rest.mid(hash.size() + 1))], kept, hash);
+  }
+  return life;
+}
+
+} // namespace
+
+QByteArray told_hash(std::string_view bytes) {
+  return QByteArray::number(static_cast<qulonglong>(std::hash<std::string_view>()(bytes)), 16);
+}
+
+Life work_and_die(const QString& program, const QString& home, unsigned seed, int lifetime) {
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("CSERKO_USER_DIR", home);
+  environment.insert("CSERKO_PACK_DIR", home + "/pack");
+  process.setProcessEnvironment(environment);
+  process.setProcessChannelMode(QProcess::SeparateChannels);
+  process.start(program, {QString::number(seed)});
+  QByteArray told;
+  while (!told.contains("begins")) {
+    if (!process.waitForReadyRead(patience)) throw std::runtime_error("the program does not begin");
+    told += process.readAllStandardOutput();
+  }
+  process.waitForFinished(lifetime);
+  if (process.state() != QProcess::Running) throw std::runtime_error("the program has ended by itself");
+  process.kill();
+  process.waitForFinished(patience);
+  told += process.readAllStandardOutput();
+  // A line that was cut short has not been told.
+  return life_of(told.left(told.lastIndexOf('\n')));
+}
+
+} // namespace cserko
