@@ -30,11 +30,13 @@ QPointF middle_of(const GraphicPlace& place) {
 // The land from a wavy line down to the lower edge. `wave` is the height of the hills, twips.
 void land(QPainter& painter, const QColor& color, double top, double wave, double length, double shift) {
   constexpr double step = 100;
+  constexpr int steps = static_cast<int>(kWidth / step) + 2;
   QPolygonF outline;
-  for (double x = -step; x <= kWidth + step; x += step)
-    outline << QPointF(x, top + wave * std::sin((x + shift) / length) +
-                              wave * 0.45 * std::sin((x + shift) / length * 2.3));
-  outline << QPointF(kWidth + step, kHeight) << QPointF(-step, kHeight);
+  for (int i = -1; i <= steps; ++i) {
+    const double x = step * i, phase = (x + shift) / length;
+    outline << QPointF(x, top + wave * std::sin(phase) + wave * 0.45 * std::sin(phase * 2.3));
+  }
+  outline << QPointF(step * steps, kHeight) << QPointF(-step, kHeight);
   polygon(painter, color, outline);
 }
 
