@@ -97,6 +97,8 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   for (const TextView line : {u"Line1", u"Line_szegély"}) {
     for (const TextView below : {u"betű", u"Line1", u"Line_szegély"})
       guide.intended.push_back({u"frm_lóugrás", line, below});
+    guide.intended.push_back(
+        {u"frm_lóugrás", u"betű", line}); // lines are painted above the fields, whichever was first
   }
   guide.for_help("knights-jump-large-walked", "knights_jump");
   guide.for_help("knights-jump-settings", "knights_jump_settings");

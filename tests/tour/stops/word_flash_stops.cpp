@@ -49,7 +49,7 @@ void lay_out_settings(Guide& guide, const FlashVisit& visit) {
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const FlashVisit visit(guide, session, platform, u"frm_szóvillám", "word-flash");
   // The design lays the strip one pixel into the ring and its button.
-  guide.intended.push_back({u"frm_szóvillám", u"Frame1", u"pic_feladványkép"});
+  guide.intended.push_back({u"frm_szóvillám", u"pic_feladványkép", u"Frame1"});
   guide.intended.push_back({u"frm_szóvillám", u"Frame1", u"cmd_újra"});
   guide.for_help("word-flash-word", "word_flash", 522);
   guide.for_help("word-flash-settings", "word_flash_settings");
@@ -74,7 +74,10 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   visit.act([visit](frm_szóvillám& window) { show_longest_word(visit, window); });
   visit.look("-longest-word");
   solve_one(visit, "-longest-result");
-  visit.act([](frm_szóvillám& window) {
+  visit.act([visit](frm_szóvillám& window) {
+    // Cancel has kept the longest time, since there is no file to take another from.
+    auto& settings = visit.session().window<frm_szóvillám_beáll>();
+    for (UpDown* number : {&settings.ud_mp, &settings.ud_tizedmp}) number->set_value(0);
     window.Timer_visszaszámláló.Interval = 50;
     window.Timer_kérdőjelmegjelenítő.Interval = 100;
   });
