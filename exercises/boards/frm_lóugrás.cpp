@@ -93,7 +93,8 @@ void frm_lóugrás::make_fields() {
   first.Tag = u"0";
   first.Visible = false;
   for (int index = 1; index < columns * rows; ++index) {
-    betű.load(index).move_to(first.Left + index % columns * first.Width, first.Top + index / columns * first.Height);
+    const int row = index / columns;
+    betű.load(index).move_to(first.Left + index % columns * first.Width, first.Top + row * first.Height);
   }
   plain_ = first.BackColor;
 }

@@ -248,6 +248,7 @@ void frm_szólánc::fill_pool() {
 
 void frm_szólánc::shuffle() {
   std::vector<Text> before;
+  before.reserve(static_cast<std::size_t>(pictures()));
   for (int i = 0; i < pictures(); ++i) before.push_back(kép[i].Tag);
   bool moved_all = false;
   while (!moved_all) {
@@ -291,8 +292,9 @@ void frm_szólánc::place_elements(double cell_height) {
   // Pictures that are not in use lie where they take no room.
   for (int i = 0; i < most_pictures; ++i) {
     const int place = i < pictures() ? i : 0;
-    put(kép[i], {edge + place % columns * (cell_width + gap), title + place / columns * (cell_height + gap), cell_width,
-                 cell_height});
+    const int row = place / columns;
+    put(kép[i],
+        {edge + place % columns * (cell_width + gap), title + row * (cell_height + gap), cell_width, cell_height});
   }
   const PictureBox& last = kép[pictures() - 1];
   put(frm_rejtvény, {edge, top_of_pool, row_width, last.Top + last.Height + edge});

@@ -50,7 +50,7 @@ class PathSearch {
   bool is_free(Square square) const;
   bool& taken(Square square) { return taken_[index(square)]; }
   static std::size_t index(Square square) {
-    return static_cast<std::size_t>(square.column + most_columns * square.row);
+    return static_cast<std::size_t>(square.column) + std::size_t{most_columns} * static_cast<std::size_t>(square.row);
   }
 
   int columns_;
