@@ -4,9 +4,9 @@
 // Usage: cserko-writes-settings SEED
 #include "core/frm_főablak_beállítások.h"
 #include "exercises/boards/frm_hosszrövid.h"
-#include "exercises/boards/frm_képmem_beáll.h"
 #include "exercises/boards/frm_lóugrás_beáll.h"
 #include "exercises/exercises.h"
+#include "exercises/letters/frm_betűhiány.h"
 #include "exercises/letters/frm_betűválogatás_beállítás.h"
 #include "exercises/letters/frm_cserkó.h"
 #include "feedback/feedback.h"
@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
   install_exercises(session);
   const std::array<SettingsDialog*, 6> dialogs{&session.window<frm_főablak_beállítások>(),
                                                &session.window<frm_cserkó_beáll>(),
-                                               &session.window<frm_képmem_beáll>(),
+                                               &session.window<dlg_betűhiány>(),
                                                &session.window<dlg_hosszrövid>(),
                                                &session.window<frm_betűválogatás_beállítás>(),
                                                &session.window<frm_lóugrás_beáll>()};

@@ -75,7 +75,8 @@ void look_at_rules(const WinderVisit& visit) {
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const WinderVisit visit(guide, session, platform, u"frmverem", "winder");
-  guide.intended.push_back({u"frmverem", u"betű", u"betű"}); // the cell of the cursor is larger than its place
+  guide.intended.push_back({u"frmverem", u"betű", u"betű"});     // the cell of the cursor is larger than its place
+  guide.intended.push_back({u"frmverem", u"képnév", u"képnév"}); // a name is a pixel wider than its picture
   guide.for_help("winder", "winder");
   guide.for_help("winder-settings", "winder_settings");
   visit.open();
