@@ -220,6 +220,7 @@ void put_for_all(MemoryFiles& files) {
 
 template<class Exercise> void deal_by(benchmark::State& state, const std::function<void(Exercise&)>& new_task) {
   HeadlessPlatform machine;
+  machine.step_limit = std::numeric_limits<std::int64_t>::max(); // all deals are one event to it
   put_for_all(machine.files());
   Session session(machine);
   install_feedback(session);
@@ -291,6 +292,7 @@ void put_for_chains(MemoryFiles& files) {
 // just finished a row.
 void deal_chain(benchmark::State& state) {
   HeadlessPlatform machine;
+  machine.step_limit = std::numeric_limits<std::int64_t>::max(); // all games are one event to it
   put_for_chains(machine.files());
   Session session(machine);
   install_feedback(session);
