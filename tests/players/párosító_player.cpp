@@ -2,6 +2,8 @@
 
 #include "tests/players/played_exercise.h"
 
+#include <utility>
+
 namespace cserko {
 
 namespace {
@@ -51,6 +53,8 @@ bool PárosítóPlayer::play(Window& window, Hand& hand) {
   }
   Way way = by_mouse() ? static_cast<Way>(task % 3) : Way::Choosing;
   if (way == Way::FromDefinition && (checked_late_ || !(err ? wrong : right)->Enabled)) way = Way::FromPicture;
+  // A line that did not reach its picture is drawn from there.
+  if (way == Way::FromDefinition && !err && std::exchange(drawn_back_, task) == task) way = Way::FromPicture;
   // Where an earlier line has taken the right one, only a drawn line leads there.
   if (way == Way::Choosing && !right->Enabled && wrong != nullptr) err = true;
   join(*picture, err ? *wrong : *right, way, err, hand);

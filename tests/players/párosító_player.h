@@ -22,6 +22,7 @@ class PárosítóPlayer : public ExercisePlayer {
   void join(PictureBox& picture, PictureBox& definition, Way way, bool err, Hand& hand);
 
   bool checked_late_;
+  int drawn_back_ = -1; ///< The task in which a line was last drawn from a definition.
 };
 
 /// How many pictures have their right partner.
