@@ -1,5 +1,6 @@
 #include "feedback/frm_rajz.h"
 
+#include "core/finally.h"
 #include "core/frame.h"
 #include "feedback/frm_színezőmegnyitás.h"
 #include "feedback/message_panels.h"
@@ -22,18 +23,6 @@ constexpr Color pale{170, 170, 170}; // white on white would not be seen while i
 constexpr TextView page_ending = u".kif";
 
 Text work_file() { return Text(fixed_root) + u"temp.bmp"; }
-
-/// Does what must be undone, and undoes it on every way out.
-class Finally {
- public:
-  explicit Finally(std::function<void()> deed) : deed_(std::move(deed)) {}
-  ~Finally() { deed_(); }
-  Finally(const Finally&) = delete;
-  Finally& operator=(const Finally&) = delete;
-
- private:
-  std::function<void()> deed_;
-};
 
 void ignoring_errors(const std::function<void()>& deed) {
   try {

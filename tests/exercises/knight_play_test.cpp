@@ -1,6 +1,8 @@
 // Knight's jump is played: moves, undoing, the end, the message, the hint, the reading.
 #include "tests/exercises/knight_fixture.h"
 
+#include <algorithm>
+
 namespace cserko {
 namespace {
 
@@ -255,6 +257,41 @@ TEST_F(KnightPlayTest, FullNamesThatAreWrongBringTheMessageAndEachUndoingTakesAL
     hand::click(window.Command1);
     EXPECT_EQ(window.képnév[0].Caption.size(), left);
   }
+}
+
+TEST_F(KnightPlayTest, OfSeveralFullNamesTheLastThatHasALetterLosesIt) {
+  put_only({{.név = u"alma"}, {.név = u"labda"}});
+  want({.pictures = 2, .neighbours = true});
+  start_session();
+  auto& window = game();
+  click(window, wrong_way(window));
+  for (int letter = 2; letter < 9; ++letter) click(window, ways_on(window).front());
+  EXPECT_EQ(messages_shown, 0);
+  then_close_message();
+  click(window, ways_on(window).front());
+  EXPECT_EQ(messages_shown, 1) << "nine letters fill both names";
+  const std::size_t whole = window.képnév[0].Tag.size();
+  for (std::size_t letters = 9; letters-- > 0;) {
+    hand::click(window.Command1);
+    EXPECT_EQ(window.képnév[0].Caption.size(), std::min(letters, whole));
+    EXPECT_EQ(window.képnév[1].Caption.size(), letters - std::min(letters, whole));
+  }
+}
+
+TEST_F(KnightPlayTest, NamesOfAGameBeforeCountForNothing) {
+  auto& window = game({});
+  walk(window, static_cast<int>(window.megoldás().size()) - 2);
+  ASSERT_FALSE(window.képnév[3].Caption.empty());
+  load<frm_lóugrás_beáll>().udképekszáma.set_value(1);
+  machine.script_random({draws(1)});
+  hand::click(window.mnu_fájl_új_játék);
+  EXPECT_EQ(names(window), "/alma / / / ");
+  click(window, wrong_way(window));
+  for (int letter = 2; letter < 4; ++letter) click(window, ways_on(window).front());
+  EXPECT_EQ(messages_shown, 0);
+  then_close_message();
+  click(window, ways_on(window).front());
+  EXPECT_EQ(messages_shown, 1) << "four letters fill the one name";
 }
 
 TEST_F(KnightPlayTest, WithFullNamesAFurtherStepOnlyBringsTheMessageAgain) {

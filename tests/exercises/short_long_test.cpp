@@ -360,6 +360,27 @@ TEST_F(ShortLongTest, WithSyllablesTheHyphensAreLettersAndTheSyllabifiedFormIsRi
   EXPECT_EQ(utf8(window.lbl_eredmény[0].Caption), "hajó");
 }
 
+TEST_F(ShortLongTest, NameAndSyllablesAreBothRightWhateverIsShownNext) {
+  auto& window = deal(u"hajó", u"o-ó", 1, 0, 1, u"ha-jó");
+  // Without a file the box stays as it was left.
+  const auto turn_over_syllables = [&] {
+    in_dialog(window, [](dlg_hosszrövid& d) {
+      hand::click(d.Chk_szótagolva);
+      hand::click(d.CancelButton);
+    });
+  };
+  turn_over_syllables();
+  hand::click(window.lbl_alsó);
+  const int pair = pair_index(load<dlg_hosszrövid>(), u"u-ú");
+  machine.script_random({0.0, drawing(pair, pairs), drawing(0, 2), record(1), 0.0});
+  hand::click(window.cmd_kész);
+  EXPECT_EQ(utf8(window.lbl_eredmény[0].Caption), "hajó");
+  EXPECT_EQ(row(window), "k|.|-|ty|a");
+  turn_over_syllables();
+  hand::click(window.cmd_kész);
+  EXPECT_EQ(utf8(window.lbl_eredmény[1].Caption), "kutya");
+}
+
 TEST_F(ShortLongTest, AClickOnTheBackgroundIsANewWordWithoutSoundOrCount) {
   auto& window = deal(u"hajó", u"o-ó", 1);
   hand::click_at(window, window.cmd_kész.Left - 20, window.inner_height() - 20);

@@ -185,6 +185,25 @@ TEST_F(WhichWayTest, AllFourWordsStandOnTheButtonsWhateverTheSetting) {
   });
 }
 
+TEST_F(WhichWayTest, TheFirstPuzzleTakesAnyOrderOfTheWords) {
+  put_motifs();
+  start();
+  const Strings words{"balra", "fel", "jobbra", "le"};
+  // Each word comes once to each button.
+  for (int turn = 0; turn < 4; ++turn) {
+    std::vector<int> places;
+    Strings expected = nothing(4);
+    for (int i = 0; i < 4; ++i) {
+      places.push_back((i + turn) % 4);
+      expected[static_cast<std::size_t>(places.back())] = words[static_cast<std::size_t>(i)];
+    }
+    script(left, 1, places);
+    auto& window = open<frm_merremutat>();
+    EXPECT_EQ(buttons(window), expected);
+    hand::close(window);
+  }
+}
+
 TEST_F(WhichWayTest, AWordThatWouldStayOnItsButtonStartsTheShuffleAgain) {
   auto& window = deal(left);
   // "balra" goes to 1, "fel" to 0, "jobbra" would stay on 2: the next order moves them all.
