@@ -7,6 +7,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QImageReader>
 #include <QPainter>
 #include <QSet>
@@ -72,8 +73,15 @@ PictureFile from_pixels(const QByteArray& bytes, const char* format, const QStri
   return {as_it_is ? bytes : encoded(image, format), ending};
 }
 
+QByteArray bytes_of(const QString& path) {
+  QFile file(path);
+  if (!file.exists()) throw PackError("nincs ilyen kép.");
+  if (!file.open(QIODevice::ReadOnly)) throw PackError("a kép nem olvasható.");
+  return file.readAll();
+}
+
 PictureFile read_picture(const QString& path) {
-  const QByteArray bytes = read_file(path);
+  const QByteArray bytes = bytes_of(path);
   const QString ending = QFileInfo(path).suffix().toLower();
   if (ending == "wmf") return from_metafile(bytes);
   if (ending == "svg") return from_svg(bytes);
@@ -120,7 +128,7 @@ Review review_of(const RecordFolders& folders, const WordRecord& record, const Q
 
 void write_new(const QString& path, const QByteArray& bytes) {
   QFile file(path);
-  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) throw PackError(path + ": " + file.errorString());
+  if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) throw PackError(path + ": nem hozható létre.");
   const bool written = file.write(bytes) == bytes.size() && file.flush();
   file.close();
   if (written) return;

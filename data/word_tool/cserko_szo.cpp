@@ -19,6 +19,23 @@ void say(FILE* stream, const QString& text) { std::fprintf(stream, "%s\n", text.
 
 QString wrong_use(const QString& what) { return what + QStringLiteral(" A használat: cserko-szó --help"); }
 
+// The parser's own headings are English.
+QString help_text(const QCommandLineParser& parser) {
+  return parser.helpText()
+      .replace("Usage:", QStringLiteral("Használat:"))
+      .replace("[options]", QStringLiteral("[kapcsolók]"))
+      .replace("Options:", QStringLiteral("Kapcsolók:"))
+      .replace("Arguments:", QStringLiteral("Megadható még:"))
+      .trimmed();
+}
+
+// What the parser could not understand.
+QString misunderstood(const QCommandLineParser& parser) {
+  const QStringList unknown = parser.unknownOptionNames();
+  if (unknown.isEmpty()) return QStringLiteral("Egy kapcsoló után hiányzik, amit meg kellene adni.");
+  return QString("Ismeretlen kapcsoló: %1.").arg(unknown.join(", "));
+}
+
 // Where the program on this machine reads its words: the pack, behind a folder of the user's where the pack is
 // read-only.
 QtFiles program_files() { return {QtFiles::find_pack(), QtFiles::find_user_folder()}; }
@@ -26,7 +43,7 @@ QtFiles program_files() { return {QtFiles::find_pack(), QtFiles::find_user_folde
 QStringList program_folders() {
   if (QtFiles::find_pack().isEmpty())
     throw PackError(
-        QStringLiteral("Cserkó szavai nincsenek meg ezen a gépen; a --folder kapcsolóval add meg a mappát."));
+        QStringLiteral("A Cserkó szavai nincsenek meg ezen a gépen; a mappa a --folder kapcsolóval adható meg."));
   return program_files().real_paths(Text(logical_application_folder) + u"kepek");
 }
 
@@ -88,11 +105,11 @@ int main(int argc, char** argv) {
   QCoreApplication::setApplicationName(QStringLiteral("cserko-szó"));
   QCommandLineParser parser;
   parser.setApplicationDescription(QStringLiteral(
-      "Saját szót ad Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
+      "Saját szót ad a Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
       "Példa: cserko-szó --name szamóca --english \"wild strawberry\" --syllables sza-mó-ca --definition \"Apró, piros "
       "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.svg"));
   parser.addOptions(
-      {{"folder", QStringLiteral("Ide írja a szót; enélkül oda, ahonnan ezen a gépen Cserkó olvas."),
+      {{"folder", QStringLiteral("Ide írja a szót; enélkül oda, ahonnan ezen a gépen a Cserkó olvas."),
         QStringLiteral("mappa")},
        {"name", QStringLiteral("A szó magyarul."), QStringLiteral("szó")},
        {"english", QStringLiteral("A szó angolul."), QStringLiteral("szó")},
@@ -101,11 +118,18 @@ int main(int argc, char** argv) {
        {"true", QStringLiteral("Igaz állítás a képről."), QStringLiteral("mondat")},
        {"false", QStringLiteral("Hamis állítás a képről."), QStringLiteral("mondat")},
        {"picture", QStringLiteral("A kép: SVG, PNG, JPEG vagy WMF."), QStringLiteral("fájl")},
-       {"strict", QStringLiteral("Figyelmeztetés esetén sem írja ki a szót.")},
-       {"check", QStringLiteral("Új szó helyett átnézi Cserkó szavait vagy a megadott mappát.")}});
+       {"strict", QStringLiteral("Ha figyelmeztetés van, nem írja ki a szót.")},
+       {"check", QStringLiteral("Új szó helyett átnézi a Cserkó szavait vagy a megadott mappát.")}});
   parser.addPositionalArgument("mappa", QStringLiteral("Csak a --check mellett: az átnézendő mappa."), "[mappa]");
-  parser.addHelpOption();
-  parser.process(application);
+  parser.addOption({{"h", "help"}, QStringLiteral("Ezt a leírást írja ki.")});
+  if (!parser.parse(QCoreApplication::arguments())) {
+    say(stderr, wrong_use(misunderstood(parser)));
+    return kWrongUse;
+  }
+  if (parser.isSet("help")) {
+    say(stdout, help_text(parser));
+    return 0;
+  }
   try {
     const QStringList folders = parser.positionalArguments();
     if (folders.size() > (parser.isSet("check") ? 1 : 0)) {

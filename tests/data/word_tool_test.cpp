@@ -192,6 +192,25 @@ TEST_F(WordToolCommand, SaysByItsExitStatusHowItWent) {
   EXPECT_EQ(run({"--check", folder_.path(), "more"}).code, 2);
 }
 
+TEST_F(WordToolCommand, SaysInHungarianWhatIsWrong) {
+  const Outcome unknown = run({"--word", "alma"});
+  EXPECT_EQ(unknown.code, 2);
+  EXPECT_TRUE(unknown.said.contains(QStringLiteral("Ismeretlen kapcsoló: word."))) << unknown.said.toStdString();
+  const Outcome open_ended = run({"--name"});
+  EXPECT_EQ(open_ended.code, 2);
+  EXPECT_TRUE(open_ended.said.contains(QStringLiteral("Egy kapcsoló után hiányzik"))) << open_ended.said.toStdString();
+  QStringList no_picture = words(apple()) + QStringList{"--folder", folder_.path()};
+  no_picture[no_picture.indexOf("--picture") + 1] = in_folder("alma.svg");
+  const Outcome refused = run(no_picture);
+  EXPECT_EQ(refused.code, 1);
+  EXPECT_TRUE(refused.said.contains(QStringLiteral("alma.svg: nincs ilyen kép."))) << refused.said.toStdString();
+  const Outcome help = run({"--help"});
+  EXPECT_EQ(help.code, 0);
+  EXPECT_TRUE(help.said.contains(QStringLiteral("Használat:"))) << help.said.toStdString();
+  for (const char* english : {"Usage", "ptions:", "rguments", "Displays"})
+    EXPECT_FALSE(help.said.contains(english)) << help.said.toStdString();
+}
+
 TEST_F(WordToolCommand, WritesWhereTheProgramReads) {
   QDir().mkpath(pack() + "/kepek");
   EXPECT_EQ(run(words(apple())).code, 0);
