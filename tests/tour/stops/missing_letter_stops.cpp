@@ -9,7 +9,7 @@ namespace {
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const Visit<frm_betűhiány, BetűhiányPlayer> visit(guide, session, platform, u"frm_betűhiány", "missing-letter");
-  guide.for_help("missing-letter-one-result", "missing_letter", 562);
+  guide.for_help("missing-letter-long-consonant", "missing_letter", 562);
   guide.for_help("missing-letter-settings", "missing_letter_settings");
   visit.open();
   visit.look_at_focus();
