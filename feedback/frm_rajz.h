@@ -32,12 +32,12 @@ class frm_rajz : public Window {
   Label aktívszín{*this, u"aktívszín", {120, 6900, 2250, 1380}};
   ElementArray<Label> szín{*this, u"szín", {2490, 6900, 650, 675}};
   Button cmd_megnyit{*this, u"cmd_megnyit", {120, 120, 1260, 660}, u"Megnyit"};
-  Button cmd_ment{*this, u"cmd_ment", {1470, 120, 1080, 660}, u"Ment"};
-  Button cmd_nyomtat{*this, u"cmd_nyomtat", {2640, 120, 1320, 660}, u"Nyomtat"};
-  Button cmd_törlés{*this, u"cmd_törlés", {4050, 120, 1200, 660}, u"Törlés"};
-  Button Command2{*this, u"Command2", {5340, 120, 1380, 660}, u"Beilleszt"};
-  Button Command1{*this, u"Command1", {6810, 120, 2400, 660}, u"Mentés színezőként"};
-  Button cmd_színező{*this, u"cmd_színező", {9300, 120, 2400, 660}, u"Színező megnyitása"};
+  Button cmd_ment{*this, u"cmd_ment", {1470, 120, 840, 660}, u"Ment"};
+  Button cmd_nyomtat{*this, u"cmd_nyomtat", {2400, 120, 1320, 660}, u"Nyomtat"};
+  Button cmd_törlés{*this, u"cmd_törlés", {3810, 120, 1200, 660}, u"Törlés"};
+  Button Command2{*this, u"Command2", {5100, 120, 1380, 660}, u"Beilleszt"};
+  Button Command1{*this, u"Command1", {6570, 120, 2520, 660}, u"Mentés színezőként"};
+  Button cmd_színező{*this, u"cmd_színező", {9180, 120, 2520, 660}, u"Színező megnyitása"};
   Button cmd_earlier{*this, u"cmd_earlier", {11790, 120, 1590, 660}, u"Előző rajz"};
   // What follows the mouse lies on the drawing area.
   Shape radír{kép, u"radír", {}};

@@ -3,6 +3,7 @@
 #include "core/frame.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <limits>
 
 namespace cserko {
@@ -11,6 +12,11 @@ namespace {
 
 constexpr double space_above_button = 60;
 constexpr double side_margins = 240;
+
+// Scaling leaves a margin on the left that grows with the window, and a fixed one on the right.
+void put_in_middle(std::initializer_list<Element*> elements) {
+  for (Element* element : elements) element->Left = (element->window().inner_width() - element->Width) / 2;
+}
 
 void show_hint_panel(Session& session, TextView word, const std::function<void(PictureBox&)>& show_picture) {
   auto& panel = session.window<üzenet>();
@@ -33,6 +39,7 @@ szövegüzenet::szövegüzenet(Session& session)
 
 void szövegüzenet::Load() {
   ablak_méretezés(*this, 0.6);
+  put_in_middle({&szöveg, &Command1});
   ablak_középre(session_, *this);
   gombok_illesztése(*this);
   text_width_ = szöveg.Width;
@@ -65,6 +72,7 @@ void szövegüzenet::fit_text() {
 
 void üzenet::Load() {
   ablak_méretezés(*this, 0.7);
+  put_in_middle({&üzenet_kép, &üzenet_szöveg, &Command1});
   ablak_középre(session_, *this);
   gombok_illesztése(*this);
 }
@@ -83,6 +91,7 @@ frm_szövegüzenet::frm_szövegüzenet(Session& session)
 
 void frm_szövegüzenet::Load() {
   ablak_méretezés(*this, 0.6);
+  put_in_middle({&pic_üzenet, &cmd_ok});
   ablak_középre(session_, *this);
   pic_üzenet.BackColor = BackColor;
   szöveg_illesztés(cmd_ok, u"Ok");
@@ -99,6 +108,7 @@ frm_üzenet::frm_üzenet(Session& session)
 
 void frm_üzenet::Load() {
   ablak_méretezés(*this, 0.9);
+  put_in_middle({&kép, &név, &cmd_ok});
   szöveg_illesztés(cmd_ok);
   ablak_középre(session_, *this);
 }

@@ -342,8 +342,8 @@ void syllable_search(const Brush& brush) {
   polygon(brush.painter, kDarkWood, {{10, 26}, {90, 26}, {96, 56}, {4, 56}});
   polygon(brush.painter, kWood, {{15, 30}, {85, 30}, {90, 56}, {10, 56}});
   syllable("ha", {50, 20}, 3, kPaper);
-  syllable("ka", {27, 38}, -16, kPaper);
-  syllable("te", {74, 38}, 15, kPaper);
+  syllable("ka", {20, 37}, -16, kPaper);
+  syllable("te", {80, 37}, 15, kPaper);
   syllable("ma", {50, 45}, -3, QColor(0xFF, 0xEB, 0xA8));
   round_box(brush.painter, kDarkWood, {2, 54, 96, 38}, 4);
   box(brush.painter, kWood, 7, 59, 86, 28);

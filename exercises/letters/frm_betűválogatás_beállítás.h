@@ -22,8 +22,8 @@ class frm_betűválogatás_beállítás : public SettingsDialog {
       frame_nyelv, u"opt_nyelv", {{0, {120, 360, 2220, 420}, u"Magyar"}, {1, {2460, 360, 2220, 420}, u"Angol"}}, 0};
   CheckBox Chk_szótagolva{*this, u"Chk_szótagolva", {2640, 3180, 4800, 420}, u"Szótagolva"};
   Label Label1{*this, u"Label1", {2640, 3660, 3240, 420}, u"Szavak maximális hossza:"};
-  Label labszóhossz{*this, u"labszóhossz", {5940, 3660, 1140, 420}};
-  UpDown udszóhossz{*this, u"udszóhossz", {7080, 3660, 360, 420}, labszóhossz, {5, 14, 1}, 14};
+  Label labszóhossz{*this, u"labszóhossz", {5940, 3660, 960, 420}};
+  UpDown udszóhossz{*this, u"udszóhossz", {6900, 3600, 540, 540}, labszóhossz, {5, 14, 1}, 14};
   CheckBox chk_animáció{*this, u"chk_animáció", {2640, 4140, 4800, 420}, u"Animáció"};
   Label Label3{*this, u"Label3", {2640, 4620, 2940, 420}, u"Az animáció finomsága:"};
   Label label_finomság{*this, u"label_finomság", {5640, 4620, 1800, 420}};

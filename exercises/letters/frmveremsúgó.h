@@ -13,8 +13,8 @@ class frmveremsúgó : public Window {
   Frame Frame1{*this, u"Frame1", {120, 120, 6300, 2280}, u"A feladat"};
   Frame Frame2{*this, u"Frame2", {120, 2520, 6300, 2760}, u"Mozgások"};
   Frame Frame3{*this, u"Frame3", {120, 5400, 6300, 1560}, u"A győzelem"};
-  Frame Frame4{*this, u"Frame4", {6540, 120, 6300, 1320}, u"A vereség"};
-  Frame Frame5{*this, u"Frame5", {6540, 1560, 6300, 3720}, u"Beállítási lehetőségek"};
+  Frame Frame4{*this, u"Frame4", {6540, 120, 6300, 2280}, u"A vereség"};
+  Frame Frame5{*this, u"Frame5", {6540, 2520, 6300, 2760}, u"Beállítási lehetőségek"};
   Frame Frame6{*this, u"Frame6", {6540, 5400, 6300, 1560}, u"Segítség"};
   /// One text in each group.
   Label& lab(int index) { return *lab_.at(static_cast<std::size_t>(index)); }

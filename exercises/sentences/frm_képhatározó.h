@@ -16,7 +16,7 @@ class frm_képhatározó_beáll : public SettingsDialog {
   Label Label1{*this, u"Label1", {120, 720, 3600, 480}, u"A meghatározások száma"};
   Label Label_meghatározásokszáma{*this, u"Label_meghatározásokszáma", {3840, 720, 720, 480}};
   UpDown Ud_meghatározásokszáma{
-      *this, u"Ud_meghatározásokszáma", {4560, 720, 360, 480}, Label_meghatározásokszáma, {2, 6, 1}, 2};
+      *this, u"Ud_meghatározásokszáma", {4560, 660, 540, 600}, Label_meghatározásokszáma, {2, 6, 1}, 2};
   Button OKButton{*this, u"OKButton", {120, 1380, 1720, 660}, u"OK"};
   Button CancelButton{*this, u"CancelButton", {1960, 1380, 1720, 660}, u"Mégsem"};
   Button cmd_súgó{*this, u"cmd_súgó", {3800, 1380, 1720, 660}, u"Súgó"};

@@ -106,14 +106,18 @@ class LabelWidget : public ElementWidget {
     QPainter painter(this);
     if (label_.Opaque) painter.fillRect(rect(), to_qt(label_.BackColor));
     // The ring goes under the text: on a narrow letter it would hide it.
-    if (shows_focus(*this, context())) paint_focus_ring(painter, rect(), context().fonts.scale());
+    const bool focused = shows_focus(*this, context());
+    if (focused)
+      paint_focus_ring(painter, rect(), context().fonts.scale(),
+                       label_.Opaque ? RingGround::AnyColor : RingGround::Paper);
     // What is faded is meant for the paper; a label with a ground of its own says itself what can be read there.
     const QColor color = label_.Opaque ? to_qt(label_.ForeColor) : text_color(*this, label_);
     if (label_.Opaque && theme::contrast(color, to_qt(label_.BackColor)) < theme::readable_contrast)
       paint_edge(painter);
     painter.setPen(color);
     paint_text(painter, {});
-    if (label_.Border) paint_border(painter, rect(), theme::text, context().fonts.scale());
+    // Beside a black border the ring would hardly be seen: it takes the border's place.
+    if (label_.Border && !focused) paint_border(painter, rect(), theme::text, context().fonts.scale());
   }
 
  private:
@@ -178,7 +182,8 @@ class PictureWidget : public ElementWidget {
     if (const auto* canvas = static_cast<const QtCanvas*>(box_.drawn_canvas()))
       painter.drawImage(0, 0, canvas->image());
     if (box_.Border) paint_border(painter, rect(), theme::line, context().fonts.scale());
-    if (shows_focus(*this, context()) && box_.TabStop) paint_focus_ring(painter, rect(), context().fonts.scale());
+    if (shows_focus(*this, context()) && box_.TabStop)
+      paint_focus_ring(painter, rect(), context().fonts.scale(), RingGround::AnyColor);
   }
 
  private:
@@ -298,7 +303,7 @@ template<class Native, QStyle::PrimitiveElement mark> class TickWidget : public 
     QStyleOptionButton option;
     this->initStyleOption(&option);
     const int side = static_cast<int>(240 * scale);
-    option.rect = QRect(2, (this->height() - side) / 2, side, side);
+    option.rect = QRect(3, (this->height() - side) / 2, side, side);
     option.state &= ~QStyle::State_HasFocus;
     this->style()->drawPrimitive(mark, &option, &painter, this);
     painter.setPen(text_color(*this, element_));

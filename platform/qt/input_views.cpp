@@ -140,14 +140,25 @@ class UpDownWidget : public QWidget {
 };
 
 /// Getting the focus selects nothing: only the user chooses. An entry is chosen where it is pressed and let go, so that
-/// a finger can scroll the list; what is selected then is told by the element.
+/// a finger can scroll the list; what is selected then is told by the element. Only whole entries are shown.
 class ListNative : public QListWidget {
  public:
-  using QListWidget::QListWidget;
+  explicit ListNative(QWidget* parent) : QListWidget(parent) {
+    // The strip below the last entry looks like the list.
+    setBackgroundRole(QPalette::Base);
+    setAutoFillBackground(true);
+  }
 
   std::function<void(int row, Qt::KeyboardModifiers)> chosen;
 
  protected:
+  void updateGeometries() override {
+    const int entry = sizeHintForRow(0);
+    const int room = height() - 2 * frameWidth();
+    const int strip = entry > 0 && count() * entry > room ? room % entry : 0;
+    if (viewportMargins().bottom() != strip) setViewportMargins(0, 0, 0, strip);
+    QListWidget::updateGeometries();
+  }
   void focusInEvent(QFocusEvent* event) override {
     const QSignalBlocker quiet(this);
     const int row = currentRow();

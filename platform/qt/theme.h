@@ -17,6 +17,9 @@ inline constexpr QColor scroll_handle(217, 190, 146);
 inline constexpr QColor field(255, 253, 247);
 inline constexpr QColor accent(24, 98, 94);
 
+/// Height of a menu bar, in pixels of a small screen.
+inline constexpr double menu_bar_height = 27;
+
 /// Gives the application its style and colours.
 void apply();
 

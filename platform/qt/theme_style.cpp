@@ -43,7 +43,10 @@ QSize ThemeStyle::sizeFromContents(ContentsType type, const QStyleOption* option
                                    const QWidget* widget) const {
   const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
   if (type != CT_MenuBarItem && type != CT_MenuItem) return size;
-  return size + (QSizeF(size - contents) * (zoom_ - 1)).toSize();
+  const QSize zoomed = size + (QSizeF(size - contents) * (zoom_ - 1)).toSize();
+  // An entry has a line at its lower edge, which is meant to be the edge of the bar.
+  const int bar = static_cast<int>(std::lround(menu_bar_height * zoom_));
+  return type == CT_MenuBarItem ? zoomed.expandedTo({0, bar}) : zoomed;
 }
 
 QRect ThemeStyle::subElementRect(SubElement element, const QStyleOption* option, const QWidget* widget) const {

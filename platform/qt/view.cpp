@@ -105,13 +105,16 @@ void paint_border(QPainter& painter, const QRect& place, const QColor& color, do
   painter.fillRect(QRect(place.right() - width + 1, place.top(), width, place.height()), color);
 }
 
-void paint_focus_ring(QPainter& painter, const QRectF& place, double scale) {
-  const double width = std::max(2.0, 30 * scale);
+void paint_focus_ring(QPainter& painter, const QRectF& place, double scale, RingGround ground) {
+  const double width = std::max(3.0, 45 * scale);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(theme::accent, width));
-  const double inset = width / 2;
-  painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), 3 * width, 3 * width);
+  const auto draw = [&](const QColor& color, double inset) {
+    painter.setPen(QPen(color, width));
+    painter.drawRoundedRect(place.adjusted(inset, inset, -inset, -inset), 2 * width, 2 * width);
+  };
+  if (ground == RingGround::AnyColor) draw(theme::field, width);
+  draw(theme::accent, width / 2);
 }
 
 } // namespace cserko

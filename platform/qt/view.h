@@ -6,6 +6,7 @@
 
 #include <QPointer>
 #include <QWidget>
+#include <cstdint>
 #include <memory>
 
 namespace cserko {
@@ -98,7 +99,10 @@ void take_every_move(bool held);
 /// A line around a place, inside it, as thick as the screen is large.
 void paint_border(QPainter& painter, const QRect& place, const QColor& color, double scale);
 
+/// What a focus ring lies on: where that may be dark, the ring has a light line inside.
+enum class RingGround : std::uint8_t { Paper, AnyColor };
+
 /// The ring around what has the keyboard focus.
-void paint_focus_ring(QPainter& painter, const QRectF& place, double scale);
+void paint_focus_ring(QPainter& painter, const QRectF& place, double scale, RingGround ground = RingGround::Paper);
 
 } // namespace cserko

@@ -5,6 +5,7 @@
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_picture.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/theme.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -118,7 +119,9 @@ WindowView::~WindowView() {
   views_.clear();
 }
 
-int WindowView::menu_height(const Fonts& fonts) { return static_cast<int>(std::lround(405 * fonts.scale())); }
+int WindowView::menu_height(const Fonts& fonts) {
+  return static_cast<int>(std::lround(theme::menu_bar_height * twips_per_pixel * fonts.scale()));
+}
 
 QSize WindowView::system_frame() { return {8, 32}; }
 
