@@ -124,7 +124,8 @@ bool ChainSearch::draw_starts() {
   return false;
 }
 
-// The plain search has come to nothing. Words that no six others can follow are not even begun with.
+// The plain search has come to nothing. Words that no six others can follow are not even begun with, and every
+// candidate is tried, also the last of several: whether there is a chain no longer depends on the order of the records.
 bool ChainSearch::draw_promising_starts(TextView advice) {
   find_ways();
   steps_left_ = steps_left_of_start_ = budget;
@@ -152,11 +153,12 @@ bool ChainSearch::lánc_keresés() {
   const std::vector<std::int16_t> jelöltek = candidates(vég);
   if (!spend(cost_of_word + static_cast<int>(index_.beginning_with(vég).size()))) return false;
   // The last index, and not the number, is the period: of several candidates the last one is never tried and the first
-  // one twice. That is intended.
+  // one twice. That is intended, as long as there are chains without it.
   const int u = static_cast<int>(jelöltek.size()) - 1;
-  const int r = random_below(platform_, u);
+  const int period = ways_.empty() ? u : u + 1;
+  const int r = random_below(platform_, period);
   for (int j = r; j <= r + u; ++j) {
-    const int k = j >= u ? j - u : j;
+    const int k = j >= period ? j - period : j;
     const int word = jelöltek[static_cast<std::size_t>(k)];
     if (!follows(word, vég)) continue;
     chain_.push_back(word);

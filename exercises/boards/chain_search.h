@@ -50,7 +50,8 @@ const ChainIndex& chain_index(const Records& records, ChainRule rule);
 /// Looks for seven different words that follow each other, of which none is longer than allowed.
 ///
 /// The search is depth first and draws its random numbers word by word. Where most ways end nowhere it could go on for
-/// ever: it has a budget. Once that is used up it begins anew and leaves out what no seven words can go through.
+/// ever: it has a budget. Once that is used up it begins anew, leaves out what no seven words can go through and tries
+/// all the rest, so that it finds a chain where there are two starts with one, in whatever order the records are.
 class ChainSearch {
  public:
   static constexpr int fewest_letters = 3;
