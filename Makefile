@@ -29,7 +29,8 @@ run: build
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then exec build/release/cserko; else \
 	  echo "There is no screen here: playing the tour instead."; exec $(MAKE) --no-print-directory tour; fi
 
-## All tests, the logic once more under the sanitizers. The last lines count them all.
+## All tests, the logic once more under the sanitizers. The last lines count them all. Twice as many at a time as there
+## are cores: those with real windows wait more than they work.
 test:
 	@$(install) build run test
 	@packaging/lint.sh format
@@ -39,7 +40,7 @@ test:
 	@$(sanitizers)
 	@packaging/lint.sh quick $(logic)
 	@printf 'subdirs(release sanitizers)\n' > build/CTestTestfile.cmake
-	@$(in_c_locale) ctest --test-dir build --output-on-failure --no-tests=error -j2
+	@$(in_c_locale) ctest --test-dir build --output-on-failure --no-tests=error -j$$(( $$(nproc) * 2 ))
 
 ## Opens every window on screens of three sizes, checks them and leaves pictures in out/tour.
 tour:

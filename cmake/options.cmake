@@ -60,14 +60,17 @@ endfunction()
 
 # How sources are built that only test: they are compiled far more often than they run, so the compiler does not try hard.
 # What they test is another library, built as it is used. With the little it still does it also warns as much.
-add_library(cserko_test_options INTERFACE)
-# As a program is compiled, also where a test stands in a library: both read the same precompiled header.
-target_compile_options(cserko_test_options INTERFACE -fPIE)
+add_library(cserko_window_test_options INTERFACE)
 if(CSERKO_SANITIZE)
-  target_compile_options(cserko_test_options INTERFACE -O0)
+  target_compile_options(cserko_window_test_options INTERFACE -O0)
 elseif(CMAKE_BUILD_TYPE STREQUAL "Release")
-  target_compile_options(cserko_test_options INTERFACE -O1)
+  target_compile_options(cserko_window_test_options INTERFACE -O1)
 endif()
+# Headless tests are compiled as a program is, also where a test stands in a library: both read the same precompiled
+# header. Whatever links Qt must not be.
+add_library(cserko_test_options INTERFACE)
+target_link_libraries(cserko_test_options INTERFACE cserko_window_test_options)
+target_compile_options(cserko_test_options INTERFACE -fPIE)
 
 # cserko_test(<name> [LOGIC] SOURCES <source>... LIBRARIES <library>...): a headless test program; each of its tests is
 # one of ctest's. What is marked as a test of the logic is built where CSERKO_LOGIC_TESTS says so, and else by its name

@@ -48,24 +48,13 @@ Shades count_shades(const QImage& image, QRect place) {
   return shades;
 }
 
-bool of_one_shade(const QImage& image, QRect place) {
-  const Shades shades = count_shades(image, place);
+bool of_one_shade(const Shades& shades) {
   const int pixels = std::accumulate(shades.begin(), shades.end(), 0);
   return *std::max_element(shades.begin(), shades.end()) >= emptiest_window * pixels;
 }
 
-} // namespace
-
-QImage take_picture(const QWidget& widget) {
-  const QRect frame = widget.frameGeometry();
-  QScreen* screen = widget.screen();
-  return screen->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
-      .toImage()
-      .convertToFormat(QImage::Format_RGB32);
-}
-
-int contrast(const QImage& image, QRect place) {
-  const Shades shades = count_shades(image, place);
+// From the darkest shade to the lightest, strays left out.
+int contrast(const Shades& shades) {
   const int pixels = std::accumulate(shades.begin(), shades.end(), 0);
   if (pixels == 0) return 0;
   const int stray = static_cast<int>(static_cast<std::int64_t>(pixels) * stray_share / 10000);
@@ -80,8 +69,21 @@ int contrast(const QImage& image, QRect place) {
   return 255 - end(shades.rbegin(), shades.rend()) - end(shades.begin(), shades.end());
 }
 
+} // namespace
+
+QImage take_picture(const QWidget& widget) {
+  const QRect frame = widget.frameGeometry();
+  QScreen* screen = widget.screen();
+  return screen->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
+      .toImage()
+      .convertToFormat(QImage::Format_RGB32);
+}
+
+int contrast(const QImage& image, QRect place) { return contrast(count_shades(image, place)); }
+
 bool is_blank(const QImage& image, QRect place) {
-  return contrast(image, place) < faintest_window || of_one_shade(image, place);
+  const Shades shades = count_shades(image, place);
+  return contrast(shades) < faintest_window || of_one_shade(shades);
 }
 
 Photograph::Photograph(QImage image, QPoint client_corner, double zoom)

@@ -10,13 +10,12 @@ namespace cserko::tour {
 
 namespace {
 
-constexpr TextView main_window = u"frm_főablak";
 constexpr TextView drawing = u"frm_rajz";
 constexpr TextView pages = u"frm_színezőmegnyitás";
 
-class Visit {
+class Sitting {
  public:
-  explicit Visit(Guide& guide) : guide_(guide) {}
+  explicit Sitting(Guide& guide) : guide_(guide) {}
 
   void act(std::function<void(frm_rajz&)> deed) {
     guide_.act(drawing, [deed = std::move(deed)](Window& window) { deed(static_cast<frm_rajz&>(window)); });
@@ -45,7 +44,7 @@ class Visit {
   Guide& guide_;
 };
 
-void draw_with_tools(Visit& visit) {
+void draw_with_tools(Sitting& visit) {
   visit.look("drawing-empty");
   visit.choose(frm_rajz::pen, 13);
   visit.draw({{0.05, 0.5}, {0.1, 0.3}, {0.15, 0.6}, {0.2, 0.3}, {0.25, 0.6}, {0.3, 0.2}});
@@ -69,7 +68,7 @@ void draw_with_tools(Visit& visit) {
   visit.look("drawing-eraser");
 }
 
-void draw_by_keyboard(Visit& visit) {
+void draw_by_keyboard(Sitting& visit) {
   visit.act([](frm_rajz&) {
     for (const Qt::Key key : {Qt::Key_1, Qt::Key_Right, Qt::Key_Space, Qt::Key_Right, Qt::Key_Down}) press_key(key);
   });
@@ -79,7 +78,7 @@ void draw_by_keyboard(Visit& visit) {
   visit.act([](frm_rajz&) { touch_mouse(); });
 }
 
-void colour_a_page(Guide& guide, Visit& visit) {
+void colour_a_page(Guide& guide, Sitting& visit) {
   visit.act([](frm_rajz& board) { input::click(board.cmd_színező); });
   guide.picture(pages, "colouring-pages");
   guide.act(pages, [](Window& window) { input::select(static_cast<frm_színezőmegnyitás&>(window).File1, 3); });
@@ -99,7 +98,7 @@ void colour_a_page(Guide& guide, Visit& visit) {
 
 void lay_out_drawing(Guide& guide) {
   guide.for_help("drawing-filled", "drawing");
-  Visit visit(guide);
+  Sitting visit(guide);
   guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
   draw_with_tools(visit);
   draw_by_keyboard(visit);

@@ -15,6 +15,8 @@
 
 namespace cserko::tour {
 
+inline constexpr TextView main_window = u"frm_főablak";
+
 class Guide : public QObject {
  public:
   /// Pictures go into the folder.

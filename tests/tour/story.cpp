@@ -20,7 +20,6 @@ namespace cserko::tour {
 
 namespace {
 
-constexpr TextView main_window = u"frm_főablak";
 
 constexpr TextView long_text =
     u"Ez a szó sajnos nem szerepel az általam használt adatbázisban. Nézd meg még egyszer jól a betűket, olvasd el "

@@ -15,7 +15,6 @@
 
 namespace cserko::tour {
 
-inline constexpr TextView main_window = u"frm_főablak";
 inline constexpr TextView congratulation = u"frm_gratuláció";
 
 /// Somebody in an exercise: what leads in, through and out is the same everywhere. The deeds of the stops keep a copy.

@@ -1,3 +1,5 @@
+// The main of every test that shows or paints: a machine without a screen and without a sound card, nothing scaled. It
+// reads the headers that these tests share, once for all of them.
 #include <QApplication>
 #include <gtest/gtest.h>
 
