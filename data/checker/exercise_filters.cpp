@@ -31,6 +31,12 @@ Setting named(const QString& name, SettingKind kind, const QStringList& labels) 
 
 Setting choice(const QString& name, const QStringList& labels) { return named(name, SettingKind::choice, labels); }
 Setting each(const QString& name, const QStringList& labels) { return named(name, SettingKind::each, labels); }
+// A number that must be playable together with every other one.
+Setting size(const QString& name, int from, int to, int standard) {
+  Setting setting = range(name, from, to, standard);
+  setting.kind = SettingKind::choice;
+  return setting;
+}
 Setting language() { return choice("language", {"Hungarian", "English"}); }
 Setting tick(const QString& name) { return choice(name, {"no", "yes"}); }
 
@@ -274,14 +280,6 @@ ExerciseFilter short_long(const Pack& pack) {
           })};
 }
 
-// With words of any usual length there are chains whatever the order of the files; with shorter words alone at least in
-// several orders.
-int chains(const Pack& pack, ChainType type, int most_letters) {
-  constexpr int usual_length = 12;
-  return most_letters >= usual_length ? chain_starts_in_any_order(pack, type, most_letters)
-                                      : chain_starts_in_some_orders(pack, type, most_letters);
-}
-
 std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
   const Passes distractor = [](const WordFacts& w, const Choice& c) {
     return w.name.count() >= 3 && w.name.count() <= c[1];
@@ -290,7 +288,7 @@ std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
   return {
       {"frm_lóugrás",
        "Knight's jump",
-       {range("rows", 6, 8, 8), range("columns", 6, 12, 8), range("letters at most", 4, 12, 12),
+       {size("rows", 6, 8, 8), size("columns", 6, 12, 8), range("letters at most", 4, 12, 12),
         range("pictures", 1, 4, 4), language(), choice("rule", {"knight", "neighbours"})},
        any,
        [](const Choice& c) { return c[3]; },
@@ -305,7 +303,7 @@ std::vector<ExerciseFilter> board_exercises(const Pack& pack) {
        any,
        always(1),
        [&pack, pool](const Choice& c) {
-         return pool(c) < c[2] ? 0 : chains(pack, static_cast<ChainType>(c[0]), c[1]);
+         return pool(c) < c[2] ? 0 : chain_starts(pack, static_cast<ChainType>(c[0]), c[1]);
        }},
       letter_mix_up(pack),
       short_long(pack),

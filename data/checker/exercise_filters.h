@@ -9,7 +9,7 @@ namespace cserko {
 
 /// How a setting takes part in the demands on the pack.
 enum class SettingKind {
-  choice, ///< a language, a rule, a direction, a tick: every value must be playable
+  choice, ///< a language, a rule, a tick, the size of a board: every value must be playable with every other choice
   range,  ///< a number: every value must be playable while all other numbers stand at their default
   each,   ///< a pair or a letter out of a list that is in play whole by default
 };

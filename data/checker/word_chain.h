@@ -8,14 +8,10 @@ namespace cserko {
 /// What must be equal between the end of a word and the start of the next.
 enum class ChainType { syllable, two_letters, letter };
 
-// The exercise's search depends on the order of the records, which is that of the file system: of several words that
-// could come next it never tries the last, and it never starts with the last of all.
-
-/// How many start words have a chain of words of at most `most_letters` letters that the search finds whatever the
-/// order is: a proof, which looks at the ways behind each word that is left when any one other is taken away.
-int chain_starts_in_any_order(const Pack& pack, ChainType type, int most_letters);
-
-/// The least number of such start words in six orders, among them those of the numbers and of the file names.
-int chain_starts_in_some_orders(const Pack& pack, ChainType type, int most_letters);
+/// How many start words have a chain of seven words of at most `most_letters` letters, whatever the order of the
+/// records is, which is that of the file system. The exercise first leaves out the last of several words that could
+/// come next; where that comes to nothing it tries them all, so that the order counts in one thing alone: the last
+/// record is never drawn as a start, and any of them may be it.
+int chain_starts(const Pack& pack, ChainType type, int most_letters);
 
 } // namespace cserko
