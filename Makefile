@@ -1,7 +1,7 @@
 # The commands of the project. Each installs what it needs, builds, and acts; CMake and its presets stand behind.
 SHELL := /bin/sh
 .DEFAULT_GOAL := build
-.PHONY: build run test tour help-pictures bench fuzz pack check-pack soak lint clean
+.PHONY: build run test tour help-pictures bench fuzz pack check-pack soak lint deb dist clean
 
 # Builds and tests speak one language everywhere; the program itself keeps that of the user.
 in_c_locale := env LC_ALL=C.UTF-8
@@ -32,7 +32,7 @@ run: build
 ## All tests, the logic once more under the sanitizers. The last lines count them all. Twice as many at a time as there
 ## are cores: those with real windows wait more than they work.
 test:
-	@$(install) build run test
+	@$(install) build run deb test
 	@packaging/lint.sh format
 	@$(configure_release)
 	@$(configure_sanitizers)
@@ -94,6 +94,17 @@ lint:
 	@$(install) build lint
 	@$(configure_release)
 	@packaging/lint.sh tidy $(FILES)
+
+## The Debian packages of program and data, in out/deb.
+deb:
+	@$(install) build deb
+	@$(configure_release)
+	@$(release) --target deb
+
+## The source archive, in out/dist.
+dist:
+	@$(install) deb
+	@packaging/dist.sh out/dist
 
 clean:
 	rm -rf build out

@@ -30,6 +30,10 @@ void build_colouring(const BuildPaths& paths);
 /// The window icon and the paper behind the windows; needs no icons and no table.
 void build_look(const BuildPaths& paths);
 
+/// The program's icon in all sizes, into a folder that is laid out as an icon theme; needs no icons and no table. It is
+/// no part of the pack.
+void build_program_icons(const BuildPaths& paths);
+
 /// The pictures on the buttons of the drawing board, into a folder; part of the look.
 void build_tool_pictures(const QString& folder);
 

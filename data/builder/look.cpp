@@ -1,14 +1,13 @@
-// The look of the windows: the program's icon, the paper behind everything, the back of the cards and the tools of the
+// The look of the windows: their icon, the paper behind everything, the back of the cards and the tools of the
 // drawing board. Drawn by code, the same on each machine.
 #include "data/builder/brushwork.h"
 #include "data/builder/builder.h"
+#include "data/builder/program_icon.h"
 #include "data/pack/table.h"
 #include "data/pack/wmf_writer.h"
 
-#include <QBuffer>
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -17,49 +16,7 @@
 namespace cserko {
 namespace {
 
-QByteArray png_of(const QImage& image) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  if (!image.save(&buffer, "PNG")) throw PackError("a PNG picture cannot be made");
-  return buffer.data();
-}
-
-QPainterPath ink_drop(QPointF tip, double height) {
-  const double half = height * 0.33;
-  QPainterPath drop(tip);
-  drop.cubicTo(tip + QPointF(half * 0.35, height * 0.32), tip + QPointF(half, height * 0.42),
-               tip + QPointF(half, height * 0.67));
-  drop.cubicTo(tip + QPointF(half, height * 0.86), tip + QPointF(half * 0.55, height), tip + QPointF(0, height));
-  drop.cubicTo(tip + QPointF(-half * 0.55, height), tip + QPointF(-half, height * 0.86),
-               tip + QPointF(-half, height * 0.67));
-  drop.cubicTo(tip + QPointF(-half, height * 0.42), tip + QPointF(-half * 0.35, height * 0.32), tip);
-  return drop;
-}
-
-// An ink drop over a hand-drawn line, on a cream card.
-QImage window_icon() {
-  constexpr int side = 256;
-  const QColor cream(0xFF, 0xF6, 0xE0), edge(0xC9, 0x6F, 0x2B), ink(0x3B, 0x27, 0x1A), gleam(0xF3, 0xC9, 0x8B);
-  QImage image(side, side, QImage::Format_ARGB32);
-  image.fill(Qt::transparent);
-  QPainter painter(&image);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(edge, 14));
-  painter.setBrush(cream);
-  painter.drawRoundedRect(QRectF(13, 13, side - 26, side - 26), 46, 46);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(ink);
-  painter.drawPath(ink_drop({128, 40}, 138));
-  painter.setBrush(gleam);
-  painter.drawEllipse(QPointF(110, 140), 10, 17);
-  QPainterPath line({58, 206});
-  line.cubicTo(86, 186, 100, 228, 128, 206);
-  line.cubicTo(156, 184, 170, 226, 198, 206);
-  painter.setBrush(Qt::NoBrush);
-  painter.setPen(QPen(edge, 13, Qt::SolidLine, Qt::RoundCap));
-  painter.drawPath(line);
-  return image;
-}
+constexpr int kWindowIconSide = 256;
 
 // A flower of ink drops for the back of a card.
 QByteArray card_back() {
@@ -150,7 +107,7 @@ QImage paper() {
 } // namespace
 
 void build_look(const BuildPaths& paths) {
-  write_if_changed(paths.output + "/cserko-icon.png", png_of(window_icon()));
+  write_if_changed(paths.output + "/cserko-icon.png", png_of(program_icon(kWindowIconSide)));
   write_if_changed(paths.output + "/paper.png", png_of(paper()));
   write_if_changed(paths.output + "/kártyahát.wmf", card_back());
   build_tool_pictures(paths.output);

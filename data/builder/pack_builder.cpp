@@ -23,6 +23,7 @@ constexpr Job kJobs[] = {
     {"look", build_look},
     {"scene", build_scene},
     {"contact", build_contact_sheet},
+    {"program-icons", build_program_icons},
 };
 
 } // namespace
@@ -32,7 +33,8 @@ int main(int argc, char** argv) {
   QGuiApplication application(argc, argv);
   QCommandLineParser parser;
   parser.setApplicationDescription(
-      "Builds one part of the data pack: words, praise, directions, colouring, look, scene or contact.");
+      "Builds one part of the data pack (words, praise, directions, colouring, look or scene), a contact sheet of its "
+      "pictures (contact), or the icons of the program (program-icons).");
   parser.addHelpOption();
   parser.addOptions({{"icons", "The icon set's icons.json.", "file"},
                      {"table", "The table of this part.", "file"},

@@ -1,39 +1,25 @@
 // cserko-szó: adds a user's own word to those of the program, or looks the words through.
 #include "data/pack/table.h"
 #include "data/word_tool/add_word.h"
+#include "platform/qt/command_line.h"
 #include "platform/qt/files.h"
 
-#include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
 #include <cstdio>
+#include <memory>
 
 using namespace cserko;
 
 namespace {
 
-constexpr int kRefused = 1, kWrongUse = 2;
+constexpr int kRefused = 1;
 const QString kRemark = QStringLiteral("Figyelmeztetés: ");
 
 void say(FILE* stream, const QString& text) { std::fprintf(stream, "%s\n", text.toUtf8().constData()); }
 
-QString wrong_use(const QString& what) { return what + QStringLiteral(" A használat: cserko-szó --help"); }
-
-// The parser's own headings are English.
-QString help_text(const QCommandLineParser& parser) {
-  return parser.helpText()
-      .replace("Usage:", QStringLiteral("Használat:"))
-      .replace("[options]", QStringLiteral("[kapcsolók]"))
-      .replace("Options:", QStringLiteral("Kapcsolók:"))
-      .replace("Arguments:", QStringLiteral("Megadható még:"))
-      .trimmed();
-}
-
-// What the parser could not understand.
-QString misunderstood(const QCommandLineParser& parser) {
-  const QStringList unknown = parser.unknownOptionNames();
-  if (unknown.isEmpty()) return QStringLiteral("Egy kapcsoló után hiányzik, amit meg kellene adni.");
-  return QString("Ismeretlen kapcsoló: %1.").arg(unknown.join(", "));
+QString pointing_to_help(const QString& what) {
+  return QStringLiteral("%1 A használat: %2 --help").arg(what, program_name());
 }
 
 // Where the program on this machine reads its words: the pack, behind a folder of the user's where the pack is
@@ -80,8 +66,8 @@ int add(const QCommandLineParser& given) {
   const QStringList needed{"name", "english", "syllables", "definition", "true", "false", "picture"};
   for (const QString& option : needed)
     if (given.value(option).isEmpty()) {
-      say(stderr, wrong_use(QString("Hiányzik: --%1.").arg(option)));
-      return kWrongUse;
+      say(stderr, pointing_to_help(QString("Hiányzik: --%1.").arg(option)));
+      return wrong_use;
     }
   // Blanks at the ends and doubled ones are nobody's intention.
   const auto text = [&](const char* option) {
@@ -97,17 +83,13 @@ int add(const QCommandLineParser& given) {
   return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  QGuiApplication application(argc, argv);
-  QCoreApplication::setApplicationName(QStringLiteral("cserko-szó"));
-  QCommandLineParser parser;
-  parser.setApplicationDescription(QStringLiteral(
-      "Saját szót ad a Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
-      "Példa: cserko-szó --name szamóca --english \"wild strawberry\" --syllables sza-mó-ca --definition \"Apró, piros "
-      "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.svg"));
+void describe(QCommandLineParser& parser) {
+  parser.setApplicationDescription(
+      QStringLiteral(
+          "Saját szót ad a Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
+          "Példa: %1 --name szamóca --english \"wild strawberry\" --syllables sza-mó-ca --definition \"Apró, piros "
+          "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.svg")
+          .arg(program_name()));
   parser.addOptions(
       {{"folder", QStringLiteral("Ide írja a szót; enélkül oda, ahonnan ezen a gépen a Cserkó olvas."),
         QStringLiteral("mappa")},
@@ -121,20 +103,26 @@ int main(int argc, char** argv) {
        {"strict", QStringLiteral("Ha figyelmeztetés van, nem írja ki a szót.")},
        {"check", QStringLiteral("Új szó helyett átnézi a Cserkó szavait vagy a megadott mappát.")}});
   parser.addPositionalArgument("mappa", QStringLiteral("Csak a --check mellett: az átnézendő mappa."), "[mappa]");
-  parser.addOption({{"h", "help"}, QStringLiteral("Ezt a leírást írja ki.")});
-  if (!parser.parse(QCoreApplication::arguments())) {
-    say(stderr, wrong_use(misunderstood(parser)));
-    return kWrongUse;
-  }
-  if (parser.isSet("help")) {
-    say(stdout, help_text(parser));
-    return 0;
-  }
+}
+
+const QString kExitCodes =
+    QStringLiteral("Kilépési kód: 0, ha a szó elkészült, vagy az átnézett szavak mind használhatók; 1, ha a szó nem\n"
+                   "használható vagy nem írható ki; 2, ha a parancssor nem érthető.\n");
+
+} // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const std::unique_ptr<QCoreApplication> application(asks_about_program(argc, argv) ? new QCoreApplication(argc, argv)
+                                                                                     : new QGuiApplication(argc, argv));
+  QCommandLineParser parser;
+  describe(parser);
+  read_command_line(parser, kExitCodes);
   try {
     const QStringList folders = parser.positionalArguments();
     if (folders.size() > (parser.isSet("check") ? 1 : 0)) {
-      say(stderr, wrong_use(QString("Fölösleges: %1.").arg(folders.last())));
-      return kWrongUse;
+      say(stderr, pointing_to_help(QString("Fölösleges: %1.").arg(folders.last())));
+      return wrong_use;
     }
     return parser.isSet("check") ? check(folders) : add(parser);
   } catch (const PackError& error) {

@@ -198,7 +198,7 @@ TEST_F(WordToolCommand, SaysInHungarianWhatIsWrong) {
   EXPECT_TRUE(unknown.said.contains(QStringLiteral("Ismeretlen kapcsoló: word."))) << unknown.said.toStdString();
   const Outcome open_ended = run({"--name"});
   EXPECT_EQ(open_ended.code, 2);
-  EXPECT_TRUE(open_ended.said.contains(QStringLiteral("Egy kapcsoló után hiányzik"))) << open_ended.said.toStdString();
+  EXPECT_TRUE(open_ended.said.contains(QStringLiteral("Hiányzik az érték: --name."))) << open_ended.said.toStdString();
   QStringList no_picture = words(apple()) + QStringList{"--folder", folder_.path()};
   no_picture[no_picture.indexOf("--picture") + 1] = in_folder("alma.svg");
   const Outcome refused = run(no_picture);
