@@ -20,7 +20,6 @@ namespace cserko::tour {
 
 namespace {
 
-
 constexpr TextView long_text =
     u"Ez a szó sajnos nem szerepel az általam használt adatbázisban. Nézd meg még egyszer jól a betűket, olvasd el "
     u"lassan, és próbáld meg más sorrendben kirakni! Ha nem megy, kérj segítséget!";
