@@ -207,6 +207,16 @@ TEST_F(ShortLongTest, AWordWhoseSyllablesCutTheLetterIsPassedOverWhereSyllablesA
   EXPECT_EQ(machine.scripted_random_left(), 0U);
 }
 
+TEST_F(ShortLongTest, AWordThatHoldsTheLetterInItsSyllablesAloneIsPassedOver) {
+  put_settings(u"hosszrövid.ini", {u" 10 ", u" 4 ", u" 1 "});
+  put_only({{.név = u"asszony", .szótagolt = u"asz-szony"}, {.név = u"asztal", .szótagolt = u"asz-tal"}});
+  start();
+  machine.script_random(
+      {drawing(pair_index(load<dlg_hosszrövid>(), u"sz-s"), pairs), drawing(0, 2), record(0), record(1), 0.0});
+  auto& window = open<frm_hosszrövid>();
+  EXPECT_EQ(row(window), "a|.|-|t|a|l");
+}
+
 // The slider.
 
 TEST_F(ShortLongTest, TheSliderFollowsThePointerExactlyAndSnapsAtNothing) {
