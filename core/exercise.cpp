@@ -11,6 +11,12 @@ ExerciseWindow::ExerciseWindow(Session& session, TextView name, Size design, Tex
   KeyPreview = true;
 }
 
+void ExerciseWindow::fill_screen(std::initializer_list<Element*> texts, double share) {
+  ablak_méretezés(*this, share);
+  for (Element* text : texts) szöveg_illesztés(*text);
+  ablak_középre(session_, *this);
+}
+
 void ExerciseWindow::deal(const std::function<void()>& steps) {
   has_puzzle_ = false;
   try {

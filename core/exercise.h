@@ -32,6 +32,10 @@ class ExerciseWindow : public Window {
   Session& session() const { return session_; }
   Records& képek() const { return session_.képek; }
 
+  /// How most exercises come onto the screen: as large as the share of it allows, with these texts fitted into their
+  /// places, in the middle.
+  void fill_screen(std::initializer_list<Element*> texts, double share = 0.95);
+
   /// Deals a puzzle. Where that fails, for whatever reason, the old puzzle is over all the same: `no_puzzle` clears
   /// away what is left of it and of the new one, and the failure goes on to the caller.
   void deal(const std::function<void()>& steps);

@@ -56,6 +56,15 @@ void hiba_hang(Session& session) {
   }
 }
 
+bool answer_sound(Session& session, bool right) {
+  if (right) {
+    helyes_hang(session);
+  } else {
+    hiba_hang(session);
+  }
+  return right;
+}
+
 void segítség_hang(Session& session) {
   if (session.window<frm_hangbeáll>().chk_hangjelzés_segítségkérés.ticked())
     hang_lejátszás(session, session.alapkönyvtár + u"cserko\\alarm.wav");

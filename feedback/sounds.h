@@ -14,6 +14,8 @@ void hang_lejátszás(Session& session, Text&& text);
 void helyes_hang(Session& session);
 /// A random sound of the error list, or the plain beep if error sounds are off: an error always makes a noise.
 void hiba_hang(Session& session);
+/// One of the two, for an answer that is right or wrong. Returns which.
+bool answer_sound(Session& session, bool right);
 /// The alarm of a call for help, if it is on.
 void segítség_hang(Session& session);
 /// A random sound of the praise list.

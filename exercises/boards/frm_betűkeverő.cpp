@@ -104,9 +104,7 @@ frm_betűkeverő::frm_betűkeverő(Session& session)
 }
 
 void frm_betűkeverő::Load() {
-  ablak_méretezés(*this, 0.95);
-  szöveg_illesztés(lbl_feladat);
-  ablak_középre(session(), *this);
+  fill_screen({&lbl_feladat});
   ablakbeállítás();
   results_.clear();
   deal_first([this] { beáll(); });
@@ -140,16 +138,15 @@ void frm_betűkeverő::no_puzzle() {
 
 int frm_betűkeverő::szó_választás() {
   platform().seed_random();
-  const int shortest = settings().ud_minbetűszám.value();
-  const int longest = settings().ud_maxbetűszám.value();
+  const LengthRange lengths = settings().lengths();
   const WordForm form = word_form(english_, false);
   const WordForm shown = word_form(english_, settings().Chk_szótagolva.ticked());
   const int wrong = lbl_szó.count() - 1;
   return képek().draw(
       platform(),
       [&](int index) {
-        const int length = képek().word_length(index, english_);
-        if (length < shortest || length > longest || index == szó_index_ || képek().word(index, shown).empty())
+        if (!lengths.allows(képek().word_length(index, english_)) || index == szó_index_ ||
+            képek().word(index, shown).empty())
           return false;
         const std::vector<Text> letters = letters_of(képek().word(index, form), english_);
         return has_enough_kinds(letters) && has_wrong_forms(letters, wrong);
@@ -234,11 +231,7 @@ bool frm_betűkeverő::is_right(const Text& spelling) const {
 
 void frm_betűkeverő::lbl_szó_click(int index) {
   if (!has_puzzle() || Timer1.Enabled) return;
-  if (!is_right(lbl_szó[index].Caption)) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), is_right(lbl_szó[index].Caption))) return;
   lbl_szó.each([&](Label& spelling) { spelling.Visible = spelling.Index == index; });
   lbl_szó[index].ForeColor = red;
   Timer1.Enabled = true;

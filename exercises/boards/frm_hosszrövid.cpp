@@ -109,10 +109,7 @@ frm_hosszrövid::frm_hosszrövid(Session& session)
 }
 
 void frm_hosszrövid::Load() {
-  ablak_méretezés(*this, 0.95);
-  szöveg_illesztés(lbl_feladat);
-  szöveg_illesztés(cmd_kész);
-  ablak_középre(session(), *this);
+  fill_screen({&lbl_feladat, &cmd_kész});
   results_.clear();
   deal_first([this] { beáll(); });
 }
@@ -140,7 +137,7 @@ void frm_hosszrövid::no_puzzle() {
 
 int frm_hosszrövid::szó_választás() {
   platform().seed_random();
-  const Wanted wanted{settings().ud_minbetűszám.value(), settings().ud_maxbetűszám.value(), form()};
+  const Wanted wanted{settings().lengths(), form()};
   if (wanted != wanted_) wordless_.clear();
   wanted_ = wanted;
   const ListBox& list = settings().lst_betűpár;
@@ -168,8 +165,7 @@ int frm_hosszrövid::szó_választás() {
 }
 
 bool frm_hosszrövid::fits(int index) const {
-  const int letters = képek().MAGYARBETŰKSZÁMA(index);
-  return letters >= wanted_.shortest && letters <= wanted_.longest && képek()[index].név.find(u'-') == Text::npos &&
+  return wanted_.lengths.allows(képek().MAGYARBETŰKSZÁMA(index)) && képek()[index].név.find(u'-') == Text::npos &&
          képek().vanebenne(index, kivett_betű_) && képek().vanebenne(index, kivett_betű_, wanted_.form);
 }
 
@@ -294,11 +290,7 @@ void frm_hosszrövid::kész() {
   Text word;
   betű.each([&](const Label& letter) { word += letter.Index == rés_index_ ? chosen : letter.Caption; });
   const KépAdat& record = képek()[szó_index_];
-  if (word != record.név && word != record.szótagolt) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), word == record.név || word == record.szótagolt)) return;
   találat_rögzítés();
   beáll();
 }

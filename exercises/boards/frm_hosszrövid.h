@@ -79,8 +79,7 @@ class frm_hosszrövid : public ExerciseWindow {
  private:
   /// The words that the settings let come.
   struct Wanted {
-    int shortest = 0;
-    int longest = 0;
+    LengthRange lengths;
     WordForm form = WordForm::Név;
     bool operator==(const Wanted&) const = default;
   };

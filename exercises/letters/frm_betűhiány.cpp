@@ -48,10 +48,7 @@ frm_betűhiány::frm_betűhiány(Session& session)
 }
 
 void frm_betűhiány::Load() {
-  ablak_méretezés(*this, 0.95);
-  szöveg_illesztés(lbl_feladat);
-  szöveg_illesztés(cmd_kész);
-  ablak_középre(session(), *this);
+  fill_screen({&lbl_feladat, &cmd_kész});
   results_.clear();
   deal_first([this] { beáll(); });
 }
@@ -77,14 +74,12 @@ void frm_betűhiány::feladat_törlés() {
 int frm_betűhiány::szóválasztás() {
   platform().seed_random();
   const bool english = settings().english();
-  const int shortest = settings().ud_minbetűszám.value();
-  const int longest = settings().ud_maxbetűszám.value();
+  const LengthRange lengths = settings().lengths();
   const WordForm form = word_form(english, false);
   return képek().draw(
       platform(),
       [&](int index) {
-        const int length = képek().word_length(index, english);
-        if (length < shortest || length > longest || index == aktuális_kép_) return false;
+        if (!lengths.allows(képek().word_length(index, english)) || index == aktuális_kép_) return false;
         const Text& word = képek().word(index, form);
         // A space is allowed in Hungarian, which is intended.
         return word.find_first_of(english ? u"- " : u"-") == Text::npos &&
@@ -149,11 +144,7 @@ bool frm_betűhiány::letter_changed(int letter, LetterRow::Way way) {
 
 void frm_betűhiány::kész() {
   if (!has_puzzle()) return;
-  if (row_.text() != szó_) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), row_.text() == szó_)) return;
   results_.add(aktuális_kép_, képek()[aktuális_kép_].név);
   beáll();
 }

@@ -380,11 +380,7 @@ void frm_betűnézegető::show_picture() {
 
 void frm_betűnézegető::picture_chosen(int place) {
   if (!has_puzzle()) return;
-  if (választáskép[place].Tag != kép.Tag) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), választáskép[place].Tag == kép.Tag)) return;
   show_picture();
   // By keyboard the next choice begins on its first picture.
   set_focus(&kép);

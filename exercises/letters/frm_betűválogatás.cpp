@@ -126,9 +126,7 @@ frm_betűválogatás::frm_betűválogatás(Session& session)
 void frm_betűválogatás::Load() {
   settings();
   eredménykép.each([](PictureBox& place) { place.Tag = done; });
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(Label1);
+  fill_screen({&Label1});
   deal_first([this] { következő_feladat(); });
 }
 
@@ -239,11 +237,7 @@ void frm_betűválogatás::answer(int letter) {
 
 void frm_betűválogatás::judge(int letter) {
   const int place = number_in(kép.Tag).value_or(0);
-  if (side_of(place) != letter) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), side_of(place) == letter)) return;
   if (settings().chk_animáció.ticked()) fly(place);
   szöveg_illesztés(eredményképnév[place]);
   eredménykép[place].Visible = true;

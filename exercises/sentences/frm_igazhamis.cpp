@@ -25,9 +25,7 @@ frm_igazhamis::frm_igazhamis(Session& session)
 }
 
 void frm_igazhamis::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   results_.clear();
   deal_first([this] { feladat_kirakása(); });
 }
@@ -69,11 +67,7 @@ void frm_igazhamis::new_puzzle() {
 
 void frm_igazhamis::lbl_állítás_click(int index) {
   if (!has_puzzle()) return;
-  if (lbl_állítás[index].Caption != képek()[aktuális_kép_].igaz) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), lbl_állítás[index].Caption == képek()[aktuális_kép_].igaz)) return;
   results_.add(aktuális_kép_, lbl_állítás[index].Caption);
   feladat_kirakása();
 }

@@ -53,9 +53,7 @@ frm_képhatározó::frm_képhatározó(Session& session)
 }
 
 void frm_képhatározó::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   nagytakarítás();
   deal_first([this] { beáll(); });
 }
@@ -119,11 +117,7 @@ void frm_képhatározó::new_puzzle() {
 
 void frm_képhatározó::lbl_meghatározás_click(int index) {
   if (!has_puzzle()) return;
-  if (lbl_meghatározás[index].Tag != képek()[aktuális_kép_].meghatározás) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), lbl_meghatározás[index].Tag == képek()[aktuális_kép_].meghatározás)) return;
   eredmény_felvétele(index);
   beáll();
 }

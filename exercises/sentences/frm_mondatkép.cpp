@@ -31,9 +31,7 @@ frm_mondatkép::frm_mondatkép(Session& session)
 }
 
 void frm_mondatkép::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   results_.clear();
   deal_first([this] { feladat_kirakása(); });
 }
@@ -95,11 +93,7 @@ void frm_mondatkép::pic_feladványkép_click(int index) {
   if (!has_puzzle()) return;
   const int record = number_in(pic_feladványkép[index].Tag).value();
   // The comparison is by text: another record with the same definition is right too.
-  if (képek()[record].meghatározás != lbl_meghatározás.Tag) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), képek()[record].meghatározás == lbl_meghatározás.Tag)) return;
   results_.add(record, lbl_meghatározás.Tag);
   feladat_kirakása();
 }

@@ -80,9 +80,7 @@ frm_szóvillám::frm_szóvillám(Session& session)
 }
 
 void frm_szóvillám::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   nagytakarítás();
   szöveg_illesztés(cmd_újra);
   deal_first([this] { beáll(); });
@@ -128,14 +126,12 @@ int frm_szóvillám::szóválasztás() {
   platform().seed_random();
   const bool english = settings().english();
   const std::vector<Text> ring = words_in_ring();
-  const int shortest = settings().ud_betszámmin.value();
-  const int longest = settings().ud_betszámmax.value();
+  const LengthRange lengths{settings().ud_betszámmin.value(), settings().ud_betszámmax.value()};
   return képek().draw(
       platform(),
       [&](int index) {
-        const int length = képek().word_length(index, english);
-        // Nor a word that stands in the ring already: nobody could tell which of its two pictures is meant.
-        return length >= shortest && length <= longest &&
+        // No word that stands in the ring already: nobody could tell which of its two pictures is meant.
+        return lengths.allows(képek().word_length(index, english)) &&
                std::find(ring.begin(), ring.end(), word(index)) == ring.end();
       },
       advice);
@@ -185,12 +181,10 @@ void frm_szóvillám::end_flash() {
 
 void frm_szóvillám::pic_feladványkép_click(int index) {
   if (!has_puzzle()) return;
-  if (index != helyes_hely_) {
-    hiba_hang(session());
+  if (!answer_sound(session(), index == helyes_hely_)) {
     Timer_visszaszámláló.Enabled = true;
     return;
   }
-  helyes_hang(session());
   eredmény_felvétele(index);
   beáll();
 }

@@ -25,6 +25,14 @@ class WordLanguage {
   bool english() const { return opt_nyelv.chosen() == 1; }
 };
 
+/// How many letters a word may have.
+struct LengthRange {
+  int shortest = 0;
+  int longest = 0;
+  bool allows(int letters) const { return letters >= shortest && letters <= longest; }
+  bool operator==(const LengthRange&) const = default;
+};
+
 /// The frame "Szavak", 5400 by 1500 twips: the least and the most letters of a word, which limit each other. At first
 /// these are the lowest number that is allowed at all and 10; the least goes up to 12, the most to 16.
 class WordLengths {
@@ -39,8 +47,10 @@ class WordLengths {
   TextBox txt_maxbetűszám{Frame1, u"txt_maxbetűszám", {3240, 900, 720, 480}};
   UpDown ud_maxbetűszám;
 
+  LengthRange lengths() const { return {ud_minbetűszám.value(), ud_maxbetűszám.value()}; }
+
  private:
-  CoupledRange lengths_{ud_minbetűszám, ud_maxbetűszám, 12};
+  CoupledRange coupled_{ud_minbetűszám, ud_maxbetűszám, 12};
 };
 
 } // namespace cserko

@@ -129,13 +129,11 @@ void frm_holvan::szavak_kirakása() {
 
 int frm_holvan::szóválasztás() {
   platform().seed_random();
-  const int shortest = settings().ud_minbetűszám.value();
-  const int longest = settings().ud_maxbetűszám.value();
+  const LengthRange lengths = settings().lengths();
   return képek().draw(
       platform(),
       [&](int index) {
-        const int length = képek().MAGYARBETŰKSZÁMA(index);
-        if (length < shortest || length > longest) return false;
+        if (!lengths.allows(képek().MAGYARBETŰKSZÁMA(index))) return false;
         // A place that is not filled anew yet still holds its word of the last puzzle, which counts too.
         const Text& name = képek()[index].név;
         bool stands_there = false;
@@ -178,11 +176,7 @@ void frm_holvan::betűméretek_igazítása() {
 void frm_holvan::cmd_irány_click(int button) {
   if (!has_puzzle()) return;
   const int direction = number_in(cmd_irány[button].Tag).value_or(0);
-  if (lbl_szó[direction].Caption != képek()[aktuális_kép_].név) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), lbl_szó[direction].Caption == képek()[aktuális_kép_].név)) return;
   eredmény_felvétele();
   beáll();
 }

@@ -72,8 +72,7 @@ frm_merremutat::frm_merremutat(Session& session)
 }
 
 void frm_merremutat::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
+  fill_screen({});
   irányképek_betöltése();
   results_.clear();
   settings();
@@ -163,11 +162,7 @@ bool frm_merremutat::szavak_keverése() {
 
 void frm_merremutat::cmd_irány_click(int button) {
   if (!has_puzzle()) return;
-  if (cmd_irány[button].Caption != word_of(irány_).answer) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), cmd_irány[button].Caption == word_of(irány_).answer)) return;
   eredmény_felvétele();
   beáll();
 }

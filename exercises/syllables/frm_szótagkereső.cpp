@@ -67,9 +67,7 @@ frm_szótagkereső::frm_szótagkereső(Session& session)
 }
 
 void frm_szótagkereső::Load() {
-  ablak_méretezés(*this, 0.95);
-  szöveg_illesztés(lbl_feladat);
-  ablak_középre(session(), *this);
+  fill_screen({&lbl_feladat});
   // The edges that the arrow keys keep to are those of the picture, so that they lead out of the tray; that is
   // intended.
   pieces_.keyboard = {static_cast<double>(rounded(step_share * kép.Width)), {kép.Width, kép.Height}};

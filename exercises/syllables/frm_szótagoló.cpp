@@ -44,10 +44,7 @@ frm_szótagoló::frm_szótagoló(Session& session)
 }
 
 void frm_szótagoló::Load() {
-  ablak_méretezés(*this, 0.95);
-  szöveg_illesztés(lbl_feladat);
-  szöveg_illesztés(cmd_kész);
-  ablak_középre(session(), *this);
+  fill_screen({&lbl_feladat, &cmd_kész});
   results_.clear();
   deal_first([this] { beáll(); });
 }
@@ -113,11 +110,7 @@ bool frm_szótagoló::break_changed(int letter, LetterRow::Way way) {
 
 void frm_szótagoló::kész() {
   if (!has_puzzle()) return;
-  if (row_.text() != képek()[aktuális_kép_].szótagolt) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), row_.text() == képek()[aktuális_kép_].szótagolt)) return;
   results_.add(aktuális_kép_, képek()[aktuális_kép_].szótagolt);
   beáll();
 }

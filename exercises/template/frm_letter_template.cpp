@@ -41,9 +41,7 @@ frm_letter_template::frm_letter_template(Session& session)
 }
 
 void frm_letter_template::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   results_.clear();
   deal_first([this] { beáll(); });
 }
@@ -55,15 +53,10 @@ const Text& frm_letter_template::word() const {
 int frm_letter_template::szóválasztás() {
   platform().seed_random();
   const bool english = settings().english();
-  const int shortest = settings().ud_minbetűszám.value();
-  const int longest = settings().ud_maxbetűszám.value();
+  const LengthRange lengths = settings().lengths();
   return képek().draw(
       platform(),
-      [&](int index) {
-        const int length = képek().word_length(index, english);
-        return length >= shortest && length <= longest && index != aktuális_kép_;
-      },
-      advice);
+      [&](int index) { return lengths.allows(képek().word_length(index, english)) && index != aktuális_kép_; }, advice);
 }
 
 void frm_letter_template::beáll() {
@@ -98,11 +91,7 @@ void frm_letter_template::szó_kirakása() {
 
 void frm_letter_template::betű_click(int letter) {
   if (!has_puzzle()) return;
-  if (letter != kicserélt_) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), letter == kicserélt_)) return;
   results_.add(aktuális_kép_, word());
   beáll();
 }

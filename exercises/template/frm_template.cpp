@@ -33,9 +33,7 @@ frm_template::frm_template(Session& session)
 }
 
 void frm_template::Load() {
-  ablak_méretezés(*this, 0.95);
-  ablak_középre(session(), *this);
-  szöveg_illesztés(lbl_feladat);
+  fill_screen({&lbl_feladat});
   results_.clear();
   deal_first([this] { beáll(); });
 }
@@ -72,11 +70,7 @@ void frm_template::no_puzzle() {
 void frm_template::lbl_név_click(int index) {
   if (!has_puzzle()) return;
   const Text& chosen = lbl_név[index].Caption;
-  if (chosen != név(aktuális_kép_)) {
-    hiba_hang(session());
-    return;
-  }
-  helyes_hang(session());
+  if (!answer_sound(session(), chosen == név(aktuális_kép_))) return;
   results_.add(aktuális_kép_, chosen);
   beáll();
 }
