@@ -137,6 +137,11 @@ class ExerciseTest : public SuiteTest {
     if (machine.processes.size() != 1) return "(" + std::to_string(machine.processes.size()) + " pages)";
     return utf8(machine.processes[0].command_line);
   }
+  /// Expects nothing but that page to have been opened, twice: by the mouse and by a key.
+  void expect_help_twice(const std::string& page) const {
+    EXPECT_EQ(machine.processes.size(), 2U);
+    for (const auto& process : machine.processes) EXPECT_EQ(utf8(process.command_line), help_command(page));
+  }
   static std::string help_command(const std::string& page) {
     return "c:\\cserko\\tintabrowser.exe c:\\cserko\\cserko\\help\\" + page;
   }

@@ -3,6 +3,7 @@
 
 #include "exercises/letters/frm_betűhiány.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 
 #include <cmath>
 
@@ -28,11 +29,7 @@ class MissingLetterFixture : public ExerciseTest {
   static double gap(int taken, int pieces) { return pieces > 3 ? drawing(taken - 1, pieces - 3) : 0.5; }
 
   /// The captions of the letters with a stroke between them.
-  static std::string row(const frm_betűhiány& window) {
-    std::string all;
-    window.betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
-  }
+  static std::string row(const frm_betűhiány& window) { return letters_of(window.betű); }
 
   /// Takes a letter in its middle, moves it by that many widths of the text and lets it go.
   void pull(frm_betűhiány& window, int letter, double widths, TextView text) {

@@ -1,8 +1,8 @@
 // The players of the exercises solve a thousand sets each, by mouse and by keyboard, with wrong answers now and then.
 #include "core/exercise_table.h"
+#include "core/graphic_places.h"
 #include "exercises/exercises.h"
-#include "tests/exercises/exercise_fixture.h"
-#include "tests/exercises/picture_memory_fixture.h"
+#include "tests/exercises/full_pack_fixture.h"
 #include "tests/players/betűválogatás_player.h"
 #include "tests/players/képmemória_player.h"
 
@@ -14,42 +14,7 @@ namespace {
 
 using Mode = PlayMode;
 
-class ExercisePlayersTest : public ExerciseTest {
- protected:
-  ExercisePlayersTest() {
-    for (const auto& [name, syllables] : {std::pair{u"alma", u"al-ma"},
-                                          {u"asszony", u"asz-szony"},
-                                          {u"ló", u"ló"},
-                                          {u"ó", u"ó"},
-                                          {u"pillangó", u"pil-lan-gó"},
-                                          {u"szilva", u"szil-va"},
-                                          {u"mennyezet", u"meny-nye-zet"},
-                                          {u"dzsem", u"dzsem"},
-                                          {u"esernyő", u"e-ser-nyő"},
-                                          {u"utolsó", u"u-tol-só"}})
-      put_full(name, syllables);
-    for (const TextView word : memory_words) put_full(Text(word), Text(word));
-    // The word chain never tries the last of several words: with these "egér" and "ablak" are not.
-    for (const TextView word : {u"eper", u"ajtó"}) put_full(Text(word), Text(word));
-    put_app_file(u"betűpár.kvl", u"a-e\r\nk-l\r\n");
-    put_app_file(u"irkep\\nyíl.swm", u"Merre mutat a nyíl");
-    for (const TextView picture : {u"nyíl_bal", u"nyíl_fel", u"nyíl_jobb", u"nyíl_le"})
-      put_app_file(u"irkep\\" + Text(picture) + u".wmf");
-    put_app_file(u"ms.skt", u"alam\rmalac\rsok\r");
-    start();
-    put_answer_sounds();
-  }
-  void put_full(const Text& name, const Text& syllables) {
-    put({.név = name,
-         .szótagolt = syllables,
-         .angol = u"the " + name,
-         .meghatározás = name + u" meghatározása.",
-         .igaz = name + u" igaz állítása.",
-         .hamis = name + u" hamis állítása."});
-  }
-};
-
-class EachPlayerTest : public ExercisePlayersTest, public ::testing::WithParamInterface<PlayedExercise> {
+class EachPlayerTest : public FullPackTest, public ::testing::WithParamInterface<PlayedExercise> {
  protected:
   EachPlayerTest() {
     exercise().prepare(machine.files());
@@ -103,6 +68,12 @@ TEST(OfferedExercises, StandInTheTableOfTheMainWindow) {
   for (const std::string& name : offered_exercises()) EXPECT_EQ(table.count(name), 1U) << name;
 }
 
+TEST(OfferedExercises, HaveAPlaceInTheGraphicMainWindow) {
+  std::multiset<std::string> places;
+  for (const GraphicPlace& place : graphic_places) places.insert(utf8(place.window));
+  for (const std::string& name : offered_exercises()) EXPECT_EQ(places.count(name), 1U) << name;
+}
+
 TEST(OfferedExercises, HaveAPlayerEach) {
   std::vector<std::string> played;
   for (const PlayedExercise& exercise : played_exercises()) played.push_back(utf8(exercise.window));
@@ -111,11 +82,11 @@ TEST(OfferedExercises, HaveAPlayerEach) {
   EXPECT_EQ(played, offered);
 }
 
-TEST_F(ExercisePlayersTest, EveryExerciseIsOfferedUnderItsOwnName) {
+TEST_F(FullPackTest, EveryExerciseIsOfferedUnderItsOwnName) {
   for (const std::string& name : offered_exercises()) EXPECT_EQ(utf8(session().window(from_utf8(name)).Name), name);
 }
 
-class DirectionModeTest : public ExercisePlayersTest {
+class DirectionModeTest : public FullPackTest {
  protected:
   void practise(Mode mode) {
     put_settings(u"betűválogató.ini", {u" 1 ", u" 1 ", u"True", u"False", u" 0 ", u" 14 "});
@@ -133,7 +104,7 @@ TEST_F(DirectionModeTest, TheSortingPlayerSaysTheSidesByMouse) { practise(Mode::
 
 TEST_F(DirectionModeTest, TheSortingPlayerSaysTheSidesByKeyboard) { practise(Mode::Keyboard); }
 
-class FullBoardTest : public ExercisePlayersTest {
+class FullBoardTest : public FullPackTest {
  protected:
   FullBoardTest() { put_app_file(u"cserko\\képmem.ini", u" 18 \r\n"); }
   /// Two cards move up for each pair that is swallowed, and two up and back for each wrong one.

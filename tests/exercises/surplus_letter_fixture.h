@@ -3,6 +3,7 @@
 
 #include "exercises/letters/frm_betűfelesleg.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 
 namespace cserko {
 
@@ -33,11 +34,7 @@ class SurplusLetterFixture : public ExerciseTest {
     script(0, 8, alphabet, 2, 5);
     return open_exercise();
   }
-  static std::string row(const frm_betűfelesleg& window) {
-    std::string all;
-    window.lbl_betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
-  }
+  static std::string row(const frm_betűfelesleg& window) { return letters_of(window.lbl_betű); }
   /// A character for each letter: R where it is red, "." where it is black.
   static std::string colors(const frm_betűfelesleg& window) {
     std::string all;

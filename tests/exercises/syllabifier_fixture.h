@@ -3,6 +3,7 @@
 
 #include "exercises/syllables/frm_szótagoló.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 
 #include <cmath>
 
@@ -22,11 +23,7 @@ class SyllabifierFixture : public ExerciseTest {
   }
 
   /// The captions of the letters with a stroke between them.
-  static std::string row(const frm_szótagoló& window) {
-    std::string all;
-    window.betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
-  }
+  static std::string row(const frm_szótagoló& window) { return letters_of(window.betű); }
 
   /// Takes a letter in its middle, moves it by that many of its widths and lets it go.
   static void pull(frm_szótagoló& window, int letter, double widths) {

@@ -60,14 +60,8 @@ TEST_F(SyllabifierTest, TheRowIsCentredUnderThePictureWithoutGaps) {
   auto& window = deal(u"mamut", u"ma-mut");
   const Font& font = window.betű[0].Font;
   const int center = rounded(window.kép.Left + window.kép.Width / 2);
-  double left = center - rounded(machine.measure(font, u"mamut").width) / 2.0;
-  window.betű.each([&](const Label& letter) {
-    EXPECT_DOUBLE_EQ(letter.Left, left);
-    EXPECT_DOUBLE_EQ(letter.Top, window.kép.Top + window.kép.Height + 20);
-    EXPECT_EQ(letter.Font, font);
-    EXPECT_DOUBLE_EQ(letter.Width, machine.measure(font, letter.Caption).width);
-    left += letter.Width;
-  });
+  const double left = center - rounded(machine.measure(font, u"mamut").width) / 2.0;
+  expect_side_by_side(window.betű, {left, window.kép.Top + window.kép.Height + 20});
 }
 
 TEST_F(SyllabifierTest, TheLettersOfAShortWordAreLimitedByTheRoomAboveTheButton) {
@@ -325,14 +319,8 @@ TEST_F(SyllabifierTest, AClickOfAShakingHandIsOne) {
 
 TEST_F(SyllabifierTest, CtrlAndAnArrowPullAndPush) {
   auto& window = deal(u"asszony", u"asz-szony");
-  window.set_focus(&window.betű[2]);
-  hand::key(window, key::right, shift::control);
-  hand::key(window, key::right, shift::control);
-  EXPECT_EQ(row(window), "a|sz-|sz|o|ny");
-  hand::key(window, key::left, shift::control);
-  hand::key(window, key::left, shift::control);
   EXPECT_EQ(row(window), "a|s|sz|o|ny");
-  EXPECT_EQ(window.focus(), &window.betű[2]);
+  expect_pulled_by_keys(window.betű, 2, "a|sz-|sz|o|ny");
 }
 
 TEST_F(SyllabifierTest, IsPlayedByArrowsSpaceAndEnterAlone) {
