@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QTimer>
+#include <cmath>
 
 namespace cserko::tour {
 
@@ -15,6 +16,13 @@ constexpr int pace = 20;            // ms between two looks at the screen
 constexpr int painting_time = 3000; // ms that a window may stay blank
 constexpr int patience = 20000;     // ms until a stop counts as never reached
 constexpr int saved_quickly = 90;   // of 100, where a PNG is packed least
+
+// Windows that are as large on every screen must fit a low one: all that do not take their share of the screen.
+bool keeps_design_size(const Window& window) {
+  const Size design = window.design_size();
+  const auto same = [](double a, double b) { return std::abs(a - b) < twips_per_pixel; };
+  return same(window.inner_width(), design.width) && same(window.inner_height(), design.height);
+}
 
 } // namespace
 
@@ -66,6 +74,7 @@ void Guide::look_at(Window& window, const std::string& name) {
 }
 
 void Guide::judge(Window& window, const std::string& name, const QImage& image, QPoint client_corner) {
+  seen_.insert(window.Name);
   const Photograph photograph(image, client_corner, platform_.fonts().scale());
   const QString number = QStringLiteral("%1").arg(++pictures_, 2, 10, QLatin1Char('0'));
   photograph.image().save(folder_ + QLatin1Char('/') + number + QLatin1Char('-') + QString::fromStdString(name) +
@@ -78,7 +87,7 @@ void Guide::judge(Window& window, const std::string& name, const QImage& image, 
       fault(name + ": no picture for the help can be made");
   }
   for (const std::string& what : photograph.faults(window)) fault(name + ": " + what);
-  const bool dialog = dynamic_cast<SettingsDialog*>(&window) != nullptr || dialogs.count(window.Name) != 0;
+  const bool dialog = dynamic_cast<SettingsDialog*>(&window) != nullptr || keeps_design_size(window);
   for (const std::string& what : tour::faults(window, {dialog, intended})) fault(name + ": " + what);
 }
 
@@ -94,7 +103,10 @@ void Guide::schedule() {
 
 void Guide::turn() {
   if (platform_.ended()) return;
-  if (next_ == stops_.size()) return platform_.end_process();
+  if (next_ == stops_.size()) {
+    tell_unseen();
+    return platform_.end_process();
+  }
   const Stop stop = stops_[next_];
   if (stop.done && stop.done()) {
     leave_stop();
@@ -133,6 +145,11 @@ void Guide::give_up(const Stop& stop) {
   // A report of an error would wait for somebody to close it.
   if (QWidget* box = QApplication::activeModalWidget()) box->close();
   platform_.end_process();
+}
+
+void Guide::tell_unseen() {
+  for (const Text& name : wanted_)
+    if (seen_.count(name) == 0) fault("no stop looks at " + to_utf8(name));
 }
 
 void Guide::fault(const std::string& what) { faults_.push_back(what); }

@@ -24,8 +24,8 @@ class Guide : public QObject {
 
   /// The overlaps that are meant to be, for all stops.
   std::vector<Overlap> intended;
-  /// Windows that keep their design size and must fit a low screen, besides all settings dialogs.
-  std::set<Text> dialogs;
+  /// A window of that name must have been looked at when the tour ends.
+  void must_see(TextView window) { wanted_.insert(Text(window)); }
 
   /// The picture of that name is also one of the help, and so wide there at most.
   void for_help(const std::string& name, const std::string& help_picture, int width = 622) {
@@ -66,6 +66,7 @@ class Guide : public QObject {
   bool stands_still(Window& window);
   void judge(Window& window, const std::string& name, const QImage& image, QPoint client_corner);
   void give_up(const Stop& stop);
+  void tell_unseen();
   void fault(const std::string& what);
 
   WatchedPlatform& platform_;
@@ -73,6 +74,8 @@ class Guide : public QObject {
   std::vector<Stop> stops_;
   std::map<std::string, HelpPicture> for_help_;
   std::size_t next_ = 0;
+  std::set<Text> wanted_;
+  std::set<Text> seen_;
   std::vector<std::string> faults_;
   QElapsedTimer waiting_;
   QImage last_seen_;

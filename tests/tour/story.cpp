@@ -4,15 +4,15 @@
 #include "core/frame.h"
 #include "core/frm_főablak.h"
 #include "core/frm_grafikus_főablak.h"
+#include "core/settings.h"
 #include "feedback/frm_dobszerkó.h"
 #include "feedback/frm_hangbeáll.h"
 #include "feedback/frm_zenebeáll.h"
 #include "feedback/message_panels.h"
 #include "feedback/névjegy.h"
 #include "platform/input.h"
-#include "tests/tour/drawing_stops.h"
-#include "tests/tour/exercise_stops.h"
 #include "tests/tour/tour_hand.h"
+#include "tests/tour/window_stops.h"
 
 #include <algorithm>
 
@@ -181,6 +181,19 @@ void lay_out_panels(Guide& guide, Session& session) {
       guide, session, u"Névjegy", "about", [](Névjegy&) {}, &Névjegy::cmdOK);
 }
 
+bool is_exercise(TextView window) {
+  return std::any_of(exercise_table.begin(), exercise_table.end(),
+                     [window](const ExerciseEntry& entry) { return entry.window == window; });
+}
+
+// The stops of the windows beside the exercises that have any.
+void lay_out_other_windows(Guide& guide, Session& session, WatchedPlatform& platform) {
+  for (const Text& name : session.offered()) {
+    const LayOut lay_out = is_exercise(name) ? nullptr : stops_in(name);
+    if (lay_out != nullptr) lay_out(guide, session, platform);
+  }
+}
+
 // The stops of each exercise, or a first look at one that has none.
 void lay_out_exercises(Guide& guide, Session& session, WatchedPlatform& platform) {
   for (std::size_t i = 0; i < exercise_table.size(); ++i) {
@@ -200,7 +213,10 @@ void lay_out_exercises(Guide& guide, Session& session, WatchedPlatform& platform
 } // namespace
 
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
-  guide.dialogs = {u"frm_hangbeáll", u"frm_zenebeáll", u"frm_színezőmegnyitás", u"Névjegy"};
+  for (const Text& name : session.offered()) guide.must_see(name);
+  platform.attached = [&guide](Window& window) {
+    if (dynamic_cast<SettingsDialog*>(&window) != nullptr) guide.must_see(window.Name);
+  };
   guide.for_help("main-slide-show", "main_window", 602);
   guide.for_help("event-sounds-selected", "event_sounds", 642);
   guide.for_help("music-selected-in-both-lists", "music", 522);
@@ -212,7 +228,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   lay_out_sounds(guide);
   lay_out_music(guide);
   lay_out_drum(guide);
-  lay_out_drawing(guide);
+  lay_out_other_windows(guide, session, platform);
   lay_out_panels(guide, session);
   lay_out_exercises(guide, session, platform);
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_kilépés); });

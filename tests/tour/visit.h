@@ -7,8 +7,8 @@
 #include "platform/input.h"
 #include "tests/players/player.h"
 #include "tests/players/strip.h"
-#include "tests/tour/exercise_stops.h"
 #include "tests/tour/tour_hand.h"
+#include "tests/tour/window_stops.h"
 
 #include <algorithm>
 #include <memory>
@@ -56,8 +56,8 @@ template<class Exercise, class Player> class Visit {
     look("-wrong-answer");
   }
 
-  void solve_until(std::function<bool()> done) const {
-    play(std::make_shared<Player>(session_, PlayMode::Mouse), std::move(done));
+  void solve_until(const std::function<bool()>& done) const {
+    play(std::make_shared<Player>(session_, PlayMode::Mouse), done);
   }
 
   void solve_all() const {
@@ -74,12 +74,12 @@ template<class Exercise, class Player> class Visit {
   }
 
  private:
-  void play(const std::shared_ptr<Player>& player, std::function<bool()> done) const {
+  void play(const std::shared_ptr<Player>& player, const std::function<bool()>& done) const {
     const auto step = [player](Window& window) {
       TourHand hand(window);
       player->step(window, hand);
     };
-    guide_.repeat(name_, step, std::move(done));
+    guide_.repeat(name_, step, done);
   }
 
   Guide& guide_;

@@ -1,4 +1,4 @@
-#include "tests/tour/exercise_stops.h"
+#include "tests/tour/window_stops.h"
 
 #include <map>
 
@@ -6,7 +6,7 @@ namespace cserko::tour {
 
 namespace {
 
-// Made on first use, since the exercises put their stops on it in no particular order.
+// Made on first use, since the windows put their stops on it in no particular order.
 std::map<Text, LayOut>& list() {
   static std::map<Text, LayOut> stops;
   return stops;

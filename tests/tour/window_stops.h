@@ -1,5 +1,6 @@
-// The stops of the tour in the exercises: who lays them out in which. Each exercise puts its own on the list in a
-// source of the folder `stops`, with a `Stops` at the end of it.
+// The stops of the tour in the windows that the suite offers, the exercises and the drawing board: who lays them out in
+// which. Each window has its own in a source of the folder `stops`, with a `Stops` at the end of it that puts them on
+// the list.
 #pragma once
 
 #include "core/session.h"
@@ -7,16 +8,16 @@
 
 namespace cserko::tour {
 
-/// Lays the stops of an exercise out, from its button in the main window through its states back to the main window.
+/// Lays the stops of a window out, from the main window through its states back to the main window.
 using LayOut = void (*)(Guide& guide, Session& session, WatchedPlatform& platform);
 
-/// Puts the stops of an exercise on the list as long as the program runs.
+/// Puts the stops of a window on the list as long as the program runs.
 class Stops {
  public:
   Stops(TextView window, LayOut lay_out);
 };
 
-/// What lays the stops of an exercise out, null if it has none.
+/// What lays the stops of a window out, null if it has none.
 LayOut stops_in(TextView window);
 
 } // namespace cserko::tour

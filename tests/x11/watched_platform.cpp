@@ -41,6 +41,11 @@ PicturePtr WatchedPlatform::load_picture(const Text& path) {
   return missing_pictures.count(path) != 0 ? nullptr : QtPlatform::load_picture(path);
 }
 
+void WatchedPlatform::attach(Window& window) {
+  QtPlatform::attach(window);
+  if (attached) attached(window);
+}
+
 void WatchedPlatform::redraw(Window& window) {
   QtPlatform::redraw(window);
   if (redrawn) redrawn(window);

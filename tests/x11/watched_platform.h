@@ -24,6 +24,8 @@ class WatchedPlatform : public QtPlatform {
   std::deque<double> chance;
   /// Pictures that count as missing, by their path.
   std::set<Text> missing_pictures;
+  /// Called for each window that is loaded, before its `Load`.
+  std::function<void(Window&)> attached;
   /// Called behind each redraw that the suite asks for, and each frame of an animation.
   std::function<void(Window&)> redrawn;
 
@@ -36,6 +38,7 @@ class WatchedPlatform : public QtPlatform {
 
   double random() override;
   PicturePtr load_picture(const Text& path) override;
+  void attach(Window& window) override;
   void redraw(Window& window) override;
   void next_frame(Window& window) override;
 };

@@ -1,10 +1,9 @@
-#include "tests/tour/drawing_stops.h"
-
 #include "core/frm_főablak.h"
 #include "feedback/frm_rajz.h"
 #include "feedback/frm_színezőmegnyitás.h"
 #include "platform/input.h"
 #include "tests/tour/tour_hand.h"
+#include "tests/tour/window_stops.h"
 
 namespace cserko::tour {
 
@@ -94,9 +93,7 @@ void colour_a_page(Guide& guide, Sitting& visit) {
   visit.look("colouring-page-coloured");
 }
 
-} // namespace
-
-void lay_out_drawing(Guide& guide) {
+void lay_out(Guide& guide, Session& /*session*/, WatchedPlatform& /*platform*/) {
   guide.for_help("drawing-filled", "drawing");
   Sitting visit(guide);
   guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
@@ -105,5 +102,9 @@ void lay_out_drawing(Guide& guide) {
   colour_a_page(guide, visit);
   guide.act(drawing, [](Window& window) { input::close(window); });
 }
+
+const Stops stops{drawing, lay_out};
+
+} // namespace
 
 } // namespace cserko::tour

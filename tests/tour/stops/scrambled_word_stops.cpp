@@ -4,7 +4,7 @@
 #include "feedback/frm_gratuláció.h"
 #include "feedback/message_panels.h"
 #include "platform/input.h"
-#include "tests/tour/exercise_stops.h"
+#include "tests/tour/window_stops.h"
 
 #include <algorithm>
 #include <map>
