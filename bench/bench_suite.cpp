@@ -4,6 +4,7 @@
 // most 16 ms; of a game of Word chain 100 ms). The two ratios are of processor time, which does not grow with what else
 // the computer does. Exit status 1 where a limit is passed.
 #include "bench/limits.h"
+#include "bench/record_files.h"
 #include "exercises/boards/frm_betűkeverő.h"
 #include "exercises/boards/frm_hosszrövid.h"
 #include "exercises/boards/frm_képmemória.h"
@@ -28,12 +29,9 @@
 #include "platform/qt/files.h"
 #include "tests/suite/memory_pack.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <benchmark/benchmark.h>
-#include <chrono>
 #include <ctime>
 #include <functional>
 #include <limits>
@@ -46,14 +44,6 @@
 namespace {
 
 using namespace cserko;
-
-constexpr int kMostRecords = 32767;
-
-template<class Work> double elapsed(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-}
 
 template<class Work> double processor_time(Work&& work) {
   const std::clock_t start = std::clock();
@@ -87,7 +77,7 @@ const MemoryFiles& memory_files(int one_in) {
   if (!fresh) return found->second;
   MemoryFiles& files = found->second;
   if (one_in == 1) {
-    put_many_records(files, kMostRecords);
+    put_many_records(files, most_records);
     return files;
   }
   const MemoryFiles& whole = memory_files(1);
@@ -103,14 +93,7 @@ const MemoryFiles& memory_files(int one_in) {
 // The same records as real files.
 struct DiskPack {
   explicit DiskPack(int one_in) : files(folder.filePath("pack"), folder.filePath("user")) {
-    const MemoryFiles& memory = memory_files(one_in);
-    QDir(folder.path()).mkpath("pack/kepek");
-    for (const Text& path : memory.all()) {
-      QFile file(folder.filePath("pack/kepek/" + QString::fromStdU16String(path.substr(path.rfind(u'\\') + 1))));
-      const std::string bytes = memory.read(path).value_or("");
-      if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0)
-        qFatal("the temporary files cannot be written");
-    }
+    write_record_files(memory_files(one_in), folder.filePath("pack"));
   }
   QTemporaryDir folder;
   QtFiles files;
@@ -177,17 +160,26 @@ void judge_deals(benchmark::State& state, const std::vector<double>& seconds_eac
   judge(state, "p99_ms", percentile(seconds_each, 99) * 1000, 16);
 }
 
+// The suite on the headless machine, with the records and settings that `put` writes.
+struct HeadlessStage {
+  explicit HeadlessStage(const std::function<void(MemoryFiles&)>& put) {
+    machine.step_limit = std::numeric_limits<std::int64_t>::max(); // all deals are one event to it
+    put(machine.files());
+    install_feedback(session);
+    install_exercises(session);
+    session.képek.load(machine.files(), session.alapkönyvtár);
+  }
+  HeadlessPlatform machine;
+  Session session{machine};
+};
+
 // New puzzles under the settings that make the draw work hardest and under the plain ones.
 void new_puzzle(benchmark::State& state) {
-  HeadlessPlatform machine;
-  put_many_records(machine.files(), kMostRecords);
-  if (state.range(0) == 1)
-    machine.files().put(Text(user_folder) + u"kiscserko.ini", " 8 \r\nTrue\r\nFalse\r\nFalse\r\n");
-  Session session(machine);
-  install_feedback(session);
-  install_exercises(session);
-  session.képek.load(machine.files(), session.alapkönyvtár);
-  auto& window = session.window<frm_cserkó>();
+  HeadlessStage stage([&](MemoryFiles& files) {
+    put_many_records(files, most_records);
+    if (state.range(0) == 1) files.put(Text(user_folder) + u"kiscserko.ini", " 8 \r\nTrue\r\nFalse\r\nFalse\r\n");
+  });
+  auto& window = stage.session.window<frm_cserkó>();
   std::vector<double> times;
   for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { window.beáll(); }));
   judge_deals(state, times);
@@ -197,9 +189,9 @@ void new_puzzle(benchmark::State& state) {
 // one are left out.
 void put_for_all(MemoryFiles& files) {
   constexpr int one_in = 1000;
-  put_many_records(files, kMostRecords);
-  for (int i = one_in; i <= kMostRecords; i += one_in) put_record(files, i, {to_text(i) + u"alma", {}, u"al-ma"});
-  for (int i = 1; i <= kMostRecords; ++i) files.put(Text(app) + u"kepek\\" + to_text(i) + u".wmf", "picture");
+  put_many_records(files, most_records);
+  for (int i = one_in; i <= most_records; i += one_in) put_record(files, i, {to_text(i) + u"alma", {}, u"al-ma"});
+  for (int i = 1; i <= most_records; ++i) files.put(Text(app) + u"kepek\\" + to_text(i) + u".wmf", "picture");
   files.put(Text(user_folder) + u"szótagoló.ini", " 2 \r\n 1 \r\n");
   // Of two letters as few words as will do.
   for (int i = 1; i <= 12; ++i) put_record(files, i * one_in + 1, {to_text(i) + (i % 2 == 0 ? u"xa" : u"qa")});
@@ -219,14 +211,8 @@ void put_for_all(MemoryFiles& files) {
 }
 
 template<class Exercise> void deal_by(benchmark::State& state, const std::function<void(Exercise&)>& new_task) {
-  HeadlessPlatform machine;
-  machine.step_limit = std::numeric_limits<std::int64_t>::max(); // all deals are one event to it
-  put_for_all(machine.files());
-  Session session(machine);
-  install_feedback(session);
-  install_exercises(session);
-  session.képek.load(machine.files(), session.alapkönyvtár);
-  auto& window = session.window<Exercise>();
+  HeadlessStage stage(put_for_all);
+  auto& window = stage.session.window<Exercise>();
   std::vector<double> times;
   for ([[maybe_unused]] auto _ : state) times.push_back(elapsed([&] { new_task(window); }));
   judge_deals(state, times);
@@ -277,7 +263,7 @@ void put_for_chains(MemoryFiles& files) {
   const auto vowels = std::to_array<TextView>({u"a", u"e", u"i", u"o", u"ó", u"u"});
   std::mt19937 chance(1);
   const auto one_of = [&chance](const auto& texts) { return Text(texts[chance() % texts.size()]); };
-  for (int i = 1; i <= kMostRecords; ++i) {
+  for (int i = 1; i <= most_records; ++i) {
     Word word;
     for (unsigned syllables = 2 + chance() % 3; syllables > 0; --syllables) {
       const Text syllable = one_of(consonants) + one_of(vowels) + (chance() % 3 == 0 ? one_of(consonants) : Text());
@@ -291,13 +277,8 @@ void put_for_chains(MemoryFiles& files) {
 // A game of Word chain by each of its types, all 28 pictures drawn: a tenth of a second is not felt where a child has
 // just finished a row.
 void deal_chain(benchmark::State& state) {
-  HeadlessPlatform machine;
-  machine.step_limit = std::numeric_limits<std::int64_t>::max(); // all games are one event to it
-  put_for_chains(machine.files());
-  Session session(machine);
-  install_feedback(session);
-  install_exercises(session);
-  session.képek.load(machine.files(), session.alapkönyvtár);
+  HeadlessStage stage(put_for_chains);
+  Session& session = stage.session;
   session.window<frm_szólánc_beállítások>().opt_típus.choose(static_cast<int>(state.range(0)));
   std::vector<double> times;
   times.push_back(elapsed([&] { session.window<frm_szólánc>(); })); // the first one makes the index

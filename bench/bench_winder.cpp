@@ -3,40 +3,27 @@
 // works (at most 4 ms). Exit status 1 where a limit is passed.
 #include "bench/frame_watch.h"
 #include "bench/limits.h"
+#include "bench/record_files.h"
 #include "bench/stage.h"
 #include "exercises/letters/frmverem.h"
 #include "platform/input.h"
 #include "tests/suite/memory_pack.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace {
 
 using namespace cserko;
 
-constexpr int kMostRecords = 32767;
-
-template<class Work> double ms_of(Work&& work) {
-  const auto start = std::chrono::steady_clock::now();
-  work();
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start).count();
-}
+template<class Work> double ms_of(Work&& work) { return elapsed(work) * 1000; }
 
 /// A pack of record files alone.
 class LargePack {
  public:
   LargePack() {
     MemoryFiles files;
-    put_many_records(files, kMostRecords);
-    QDir(folder_.path()).mkpath("kepek");
-    for (const Text& path : files.all()) {
-      QFile file(folder_.filePath("kepek/" + QString::fromStdU16String(path.substr(path.rfind(u'\\') + 1))));
-      const std::string bytes = files.read(path).value_or("");
-      if (!file.open(QIODevice::WriteOnly) || file.write(bytes.data(), static_cast<qint64>(bytes.size())) < 0)
-        qFatal("the temporary files cannot be written");
-    }
+    put_many_records(files, most_records);
+    write_record_files(files, folder_.path());
     before_ = qgetenv("CSERKO_PACK_DIR");
     qputenv("CSERKO_PACK_DIR", folder_.path().toUtf8());
   }

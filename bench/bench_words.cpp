@@ -13,13 +13,12 @@ namespace {
 
 using namespace cserko;
 
-constexpr int kMostRecords = 32767;
 constexpr int kOneIn = 4000;
 
 struct Words {
   Words() {
-    put_many_records(machine.files(), kMostRecords);
-    for (int i = kOneIn; i <= kMostRecords; i += kOneIn) put_record(machine.files(), i, {u"dzsungelharcos"});
+    put_many_records(machine.files(), most_records);
+    for (int i = kOneIn; i <= most_records; i += kOneIn) put_record(machine.files(), i, {u"dzsungelharcos"});
     records.load(machine.files(), Text(app));
   }
   HeadlessPlatform machine;

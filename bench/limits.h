@@ -3,12 +3,23 @@
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <cstddef>
 #include <cstdio>
 #include <string>
 #include <vector>
 
 namespace cserko {
+
+/// As many records as the suite can name and draw.
+inline constexpr int most_records = 32767;
+
+/// How long some work takes, seconds.
+template<class Work> double elapsed(Work&& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
 
 /// Whether a figure of this run has passed its limit.
 inline bool limit_passed = false;

@@ -1,7 +1,10 @@
 #include "tests/kills/kill.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QProcess>
+#include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <stdexcept>
 #include <string_view>
@@ -57,6 +60,20 @@ Life work_and_die(const QString& program, const QString& home, unsigned seed, in
   told += process.readAllStandardOutput();
   // A line that was cut short has not been told.
   return life_of(told.left(told.lastIndexOf('\n')));
+}
+
+int kill_from_command_line(int argc, char** argv, int (*run)(const QString& program, int count)) {
+  const QCoreApplication application(argc, argv);
+  if (argc != 3) {
+    std::fprintf(stderr, "usage: %s PROGRAM COUNT\n", argv[0]);
+    return 2;
+  }
+  try {
+    return run(QString::fromLocal8Bit(argv[1]), std::atoi(argv[2]));
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "%s\n", error.what());
+    return 1;
+  }
 }
 
 } // namespace cserko

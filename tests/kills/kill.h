@@ -30,4 +30,8 @@ QByteArray told_hash(std::string_view bytes);
 /// it so many ms later. Throws std::runtime_error where it does not begin or ends by itself.
 Life work_and_die(const QString& program, const QString& home, unsigned seed, int lifetime);
 
+/// The whole of a program that kills the one of its first argument as often as its second one says. What `run` throws
+/// is told, and the exit status is 1.
+int kill_from_command_line(int argc, char** argv, int (*run)(const QString& program, int count));
+
 } // namespace cserko

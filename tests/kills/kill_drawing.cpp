@@ -5,12 +5,10 @@
 #include "platform/bitmap.h"
 #include "tests/kills/kill.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <cstdio>
-#include <cstdlib>
 #include <random>
 #include <stdexcept>
 
@@ -61,16 +59,4 @@ int run(const QString& program, int count) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
-  if (argc != 3) {
-    std::fputs("usage: cserko-kill-drawing PROGRAM COUNT\n", stderr);
-    return 2;
-  }
-  try {
-    return run(QString::fromLocal8Bit(argv[1]), std::atoi(argv[2]));
-  } catch (const std::exception& error) {
-    std::fprintf(stderr, "%s\n", error.what());
-    return 1;
-  }
-}
+int main(int argc, char** argv) { return cserko::kill_from_command_line(argc, argv, run); }
