@@ -2,6 +2,7 @@
 #include "fixture.h"
 
 #include <QFile>
+#include <QProcess>
 
 namespace cserko::test {
 
@@ -59,6 +60,25 @@ TEST_F(Programs, AProgramThatIsNotThereIsAClearError) {
   } catch (const std::runtime_error& error) {
     EXPECT_THAT(error.what(), HasSubstr("portál"));
   }
+}
+
+TEST_F(Programs, TheSuiteWithoutItsPackTellsThePersonAndWaits) {
+  const QTemporaryDir elsewhere;
+  const QString suite = elsewhere.filePath("cserko");
+  ASSERT_TRUE(QFile::copy(QCoreApplication::applicationDirPath() + "/cserko", suite));
+  QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.remove("CSERKO_PACK_DIR");
+  process.setProcessEnvironment(environment);
+  process.setProcessChannelMode(QProcess::MergedChannels);
+  process.start(suite, QStringList());
+  QString told;
+  while (!told.contains("adatcsomagja hiányzik") && process.waitForReadyRead(10000))
+    told += QString::fromUtf8(process.readAll());
+  EXPECT_TRUE(told.contains("adatcsomagja hiányzik")) << told.toStdString();
+  EXPECT_FALSE(process.waitForFinished(500)) << "nobody has closed the box";
+  process.kill();
+  process.waitForFinished();
 }
 
 TEST_F(Programs, ThereIsNoRegistryHere) {
