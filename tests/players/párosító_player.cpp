@@ -2,8 +2,6 @@
 
 #include "tests/players/played_exercise.h"
 
-#include <utility>
-
 namespace cserko {
 
 namespace {
@@ -46,19 +44,24 @@ bool PárosítóPlayer::play(Window& window, Hand& hand) {
     }
   });
   if (right == nullptr) return false;
-  bool err = mistake_due(task);
-  if (err && wrong == nullptr) {
-    forgo_mistake();
-    err = false;
-  }
+  // The last pair leaves nothing to be mistaken about: the next set makes up for it.
+  owes_mistake_ = mistake_due(task) || owes_mistake_;
+  bool err = owes_mistake_ && wrong != nullptr;
+  if (!err) forgo_mistake();
   Way way = by_mouse() ? static_cast<Way>(task % 3) : Way::Choosing;
-  if (way == Way::FromDefinition && (checked_late_ || !(err ? wrong : right)->Enabled)) way = Way::FromPicture;
-  // A line that did not reach its picture is drawn from there.
-  if (way == Way::FromDefinition && !err && std::exchange(drawn_back_, task) == task) way = Way::FromPicture;
+  if (way == Way::FromDefinition && !may_begin(err ? *wrong : *right, *picture)) way = Way::FromPicture;
   // Where an earlier line has taken the right one, only a drawn line leads there.
   if (way == Way::Choosing && !right->Enabled && wrong != nullptr) err = true;
   join(*picture, err ? *wrong : *right, way, err, hand);
   return true;
+}
+
+// Where lines are checked late, one from a definition takes those out of play that stand across from its ends. If these
+// two belong together, nothing can join them any more, and the full board starts over, again and again. Only a level
+// line takes none but its own ends.
+bool PárosítóPlayer::may_begin(const PictureBox& definition, const PictureBox& picture) {
+  const bool at_once = session_.window<frm_párosító_beáll>().Option_ellenőr[0].value();
+  return definition.Enabled && (at_once || definition.Index == picture.Index);
 }
 
 void PárosítóPlayer::join(PictureBox& picture, PictureBox& definition, Way way, bool err, Hand& hand) {
@@ -73,7 +76,9 @@ void PárosítóPlayer::join(PictureBox& picture, PictureBox& definition, Way wa
   } else {
     joined = choose(definition, hand);
   }
-  if (joined && err) mistake_made();
+  if (!joined || !err) return;
+  mistake_made();
+  owes_mistake_ = false;
 }
 
 namespace {

@@ -9,9 +9,8 @@ namespace cserko {
 
 class PárosítóPlayer : public ExercisePlayer {
  public:
-  /// Where lines are checked late, those from a definition take others out of play than they join: it draws none then.
-  PárosítóPlayer(const Session& session, Mode mode, int mistakes = 0, bool checked_late = false)
-      : ExercisePlayer(session, u"frm_párosító", mode, mistakes), checked_late_(checked_late) {}
+  PárosítóPlayer(Session& session, Mode mode, int mistakes = 0)
+      : ExercisePlayer(session, u"frm_párosító", mode, mistakes), session_(session) {}
 
  protected:
   bool play(Window& window, Hand& hand) override;
@@ -19,10 +18,11 @@ class PárosítóPlayer : public ExercisePlayer {
  private:
   enum class Way : std::uint8_t { FromPicture, FromDefinition, Choosing };
 
+  bool may_begin(const PictureBox& definition, const PictureBox& picture);
   void join(PictureBox& picture, PictureBox& definition, Way way, bool err, Hand& hand);
 
-  bool checked_late_;
-  int drawn_back_ = -1; ///< The task in which a line was last drawn from a definition.
+  Session& session_;
+  bool owes_mistake_ = false; ///< A wrong answer was due when none was possible.
 };
 
 /// How many pictures have their right partner.
