@@ -2,6 +2,9 @@
 
 #include "core/exercise_table.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <numeric>
 #include <ostream>
 
@@ -15,8 +18,11 @@ constexpr TextView viewer = u"tintabrowser.exe ";
 constexpr std::array<TextView, 5> further_windows{u"frm_hangbeáll", u"frm_zenebeáll", u"frm_dobszerkó", u"frm_rajz",
                                                   u"frm_grafikus_főablak"};
 
-// Loaded all the time, and never shown: it carries the look.
-constexpr TextView hidden_window = u"frm_referencia";
+// Loaded and never shown: one carries the look, the other the timer of a pause.
+constexpr std::array<TextView, 2> hidden_windows{u"frm_referencia", u"frmwait"};
+
+// The contents page alone leads to these.
+const std::set<Text> pages_behind_others{u"cserkó - eseményhangok.mht", u"cserkó - zene.mht"};
 
 Text bare_name(const Text& path) { return path.substr(path.rfind(u'\\') + 1); }
 
@@ -36,6 +42,18 @@ int count_of(const std::map<Text, int>& counts, const Text& name) {
 }
 
 } // namespace
+
+std::set<Text> written_help_pages(const std::string& folder) {
+  constexpr std::string_view mark = "<!-- page: ";
+  std::set<Text> pages;
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    std::ifstream file(entry.path());
+    std::string line;
+    if (!std::getline(file, line) || !line.starts_with(mark)) continue;
+    pages.insert(from_utf8(line.substr(mark.size(), line.rfind(" -->") - mark.size())));
+  }
+  return pages;
+}
 
 void Census::add(CountingMachine& machine, const Session& session) {
   for (const auto& [name, count] : machine.shown()) shown_[name] += count;
@@ -60,7 +78,8 @@ std::set<Text> Census::report(std::ostream& out, const std::map<Text, int>& even
   for (const auto& [name, times] : shown_) {
     const int events = count_of(events_by_window, name);
     out << "  " << to_utf8(name) << ": " << times << ", " << events << '\n';
-    if (times == 0 && name != hidden_window) never.insert(name);
+    const bool hidden = std::find(hidden_windows.begin(), hidden_windows.end(), name) != hidden_windows.end();
+    if (times == 0 && !hidden) never.insert(name);
   }
   for (const Text& name : offered_) {
     if (count_of(events_by_window, name) == 0) never.insert(name);
@@ -70,7 +89,9 @@ std::set<Text> Census::report(std::ostream& out, const std::map<Text, int>& even
   print(out, "help pages opened", help_pages_);
   if (titles_.empty()) never.emplace(u"music");
   if (drums_.empty()) never.emplace(u"drums");
-  if (help_pages_.empty()) never.emplace(u"help viewer");
+  for (const Text& page : wanted_pages_) {
+    if (count_of(help_pages_, page) == 0 && pages_behind_others.count(page) == 0) never.insert(page);
+  }
   return never;
 }
 
