@@ -1,7 +1,7 @@
 # The commands of the project. Each installs what it needs, builds, and acts; CMake and its presets stand behind.
 SHELL := /bin/sh
 .DEFAULT_GOAL := build
-.PHONY: build run test tour help-pictures bench fuzz pack check-pack soak lint deb dist clean
+.PHONY: build run test tour help-pictures bench fuzz pack check-pack soak lint deb dist windows windows-test clean
 
 # Builds and tests speak one language everywhere; the program itself keeps that of the user.
 in_c_locale := env LC_ALL=C.UTF-8
@@ -105,6 +105,18 @@ deb:
 dist:
 	@$(install) deb
 	@packaging/dist.sh out/dist
+
+## The installer for 64-bit Windows in out/windows. The first time it also builds the libraries, a quarter of an hour;
+## CSERKO_WINDOWS_CACHE names a folder for them outside of the clone.
+windows: pack
+	@$(install) windows
+	@$(in_c_locale) packaging/windows/build.sh build/pack
+
+## Installs, plays, looks at and uninstalls what `make windows` has built, under Wine; pictures in out/windows.
+windows-test: windows
+	@$(install) run test windows-test
+	@$(release) --target cserko-x11-events
+	@$(in_c_locale) packaging/windows/test.sh
 
 clean:
 	rm -rf build out

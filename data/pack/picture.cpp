@@ -2,7 +2,6 @@
 
 #include "data/pack/metafile_device.h"
 #include "data/pack/table.h"
-#include "platform/qt/metafile/metafile.h"
 
 #include <QPainter>
 #include <algorithm>
@@ -84,15 +83,6 @@ QImage SquarePicture::image(int side) {
   image.fill(Qt::white);
   QPainter painter(&image);
   paint(painter, side);
-  return image;
-}
-
-QImage draw_metafile(const QByteArray& metafile, int side) {
-  QImage drawn = render_metafile(metafile, QSize(side, side), PictureFit::Stretch);
-  if (drawn.isNull()) return drawn;
-  QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-  image.fill(Qt::white);
-  QPainter(&image).drawImage(0, 0, drawn);
   return image;
 }
 

@@ -1,6 +1,7 @@
 // From an SVG text to a metafile on the pack's square, and the proof that the two look the same.
 #pragma once
 
+#include "data/pack/drawn_metafile.h"
 #include "data/pack/wmf_writer.h"
 
 #include <QByteArray>
@@ -36,9 +37,6 @@ class SquarePicture {
   QSvgRenderer renderer_;
   QTransform to_square_; // from the view box to the square 0..kMetafileSide
 };
-
-/// The metafile as the program's own player draws it, on white. A null image when it cannot be drawn.
-QImage draw_metafile(const QByteArray& metafile, int side);
 
 /// Share (0 to 1) of the pixels of two images of equal size whose colours differ plainly.
 double share_of_pixels_off(const QImage& a, const QImage& b);

@@ -1,7 +1,7 @@
 #include "data/pack/record_checks.h"
 
 #include "core/kszöveg.h"
-#include "data/pack/picture.h"
+#include "data/pack/drawn_metafile.h"
 #include "data/pack/record_folders.h"
 #include "data/pack/table.h"
 

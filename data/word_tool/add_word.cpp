@@ -1,60 +1,27 @@
 #include "data/word_tool/add_word.h"
 
-#include "data/pack/picture.h"
+#include "data/pack/drawn_metafile.h"
 #include "data/pack/record_checks.h"
 #include "data/pack/record_folders.h"
 #include "data/pack/table.h"
+#include "data/word_tool/picture_file.h"
 
 #include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QImageReader>
-#include <QPainter>
 #include <QSet>
 #include <algorithm>
 
 namespace cserko {
 namespace {
 
-constexpr int kLongestSide =
-    1200; // pixels of a photo or of a drawn SVG: sharp on every screen, and no burden on memory
 constexpr int kLargestSide = 20000; // pixels of a photo that is opened at all
 constexpr int kProbeSide = 64;      // pixels, enough to see whether a metafile draws anything
-
-struct PictureFile {
-  QByteArray bytes;
-  QString ending;
-};
 
 PictureFile from_metafile(const QByteArray& bytes) {
   if (draw_metafile(bytes, kProbeSide).isNull()) throw PackError("a WMF kép nem rajzolható ki.");
   return {bytes, ".wmf"};
-}
-
-QByteArray encoded(const QImage& image, const char* format) {
-  QBuffer buffer;
-  buffer.open(QIODevice::WriteOnly);
-  if (!image.save(&buffer, format)) throw PackError("a kép nem alakítható át.");
-  return buffer.data();
-}
-
-// Solid fills become a metafile, as the pack's own pictures do; what a metafile cannot hold is drawn into pixels.
-PictureFile from_svg(const QByteArray& svg) {
-  try {
-    SquarePicture picture(svg);
-    if (picture.banded()) throw PackError("gradients are smooth in pixels alone");
-    return {proved_metafile(picture, "kép"), ".wmf"};
-  } catch (const PackError&) {
-    QSvgRenderer renderer(svg);
-    if (!renderer.isValid() || renderer.viewBoxF().isEmpty()) throw PackError("az SVG kép nem olvasható.");
-    QImage image(renderer.viewBoxF().size().scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio).toSize(),
-                 QImage::Format_ARGB32);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    renderer.render(&painter);
-    painter.end();
-    return {encoded(image, "PNG"), ".png"};
-  }
 }
 
 PictureFile from_pixels(const QByteArray& bytes, const char* format, const QString& ending) {
@@ -66,11 +33,12 @@ PictureFile from_pixels(const QByteArray& bytes, const char* format, const QStri
   if (size.isEmpty()) throw PackError("a kép nem olvasható.");
   const int longer = std::max(size.width(), size.height());
   if (longer > kLargestSide) throw PackError("a kép túl nagy.");
-  if (longer > kLongestSide) reader.setScaledSize(size.scaled(kLongestSide, kLongestSide, Qt::KeepAspectRatio));
+  if (longer > kLongestPictureSide)
+    reader.setScaledSize(size.scaled(kLongestPictureSide, kLongestPictureSide, Qt::KeepAspectRatio));
   const QImage image = reader.read();
   if (image.isNull()) throw PackError("a kép nem olvasható.");
-  const bool as_it_is = longer <= kLongestSide && reader.transformation() == QImageIOHandler::TransformationNone;
-  return {as_it_is ? bytes : encoded(image, format), ending};
+  const bool as_it_is = longer <= kLongestPictureSide && reader.transformation() == QImageIOHandler::TransformationNone;
+  return {as_it_is ? bytes : encoded_picture(image, format), ending};
 }
 
 QByteArray bytes_of(const QString& path) {
@@ -84,7 +52,7 @@ PictureFile read_picture(const QString& path) {
   const QByteArray bytes = bytes_of(path);
   const QString ending = QFileInfo(path).suffix().toLower();
   if (ending == "wmf") return from_metafile(bytes);
-  if (ending == "svg") return from_svg(bytes);
+  if (ending == "svg") return picture_from_svg(bytes);
   if (ending == "png") return from_pixels(bytes, "png", ".png");
   if (ending == "jpg" || ending == "jpeg") return from_pixels(bytes, "jpeg", ".jpg");
   throw PackError("a kép SVG, PNG, JPEG vagy WMF legyen.");
@@ -137,6 +105,13 @@ void write_new(const QString& path, const QByteArray& bytes) {
 }
 
 } // namespace
+
+QByteArray encoded_picture(const QImage& image, const char* format) {
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  if (!image.save(&buffer, format)) throw PackError("a kép nem alakítható át.");
+  return buffer.data();
+}
 
 AddedWord add_word(const QStringList& folder_paths, const WordRecord& record, const QString& picture_path,
                    const WordRules& rules) {

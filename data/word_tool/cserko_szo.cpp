@@ -8,6 +8,9 @@
 #include <QGuiApplication>
 #include <cstdio>
 #include <memory>
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 using namespace cserko;
 
@@ -112,7 +115,12 @@ const QString kExitCodes =
 } // namespace
 
 int main(int argc, char** argv) {
+#ifdef Q_OS_WIN
+  SetConsoleOutputCP(CP_UTF8);
+#else
+  // Nothing is shown: it runs without a screen too.
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
   const std::unique_ptr<QCoreApplication> application(asks_about_program(argc, argv) ? new QCoreApplication(argc, argv)
                                                                                      : new QGuiApplication(argc, argv));
   QCommandLineParser parser;

@@ -19,6 +19,16 @@ QString fold(const QString& name) { return name.normalized(QString::Normalizatio
 
 QString folder_of(const QString& path) { return path.left(path.lastIndexOf('/')); }
 
+// Whether what the user adds and changes may go into the pack itself. On Windows the installer takes away what it has
+// installed, and nothing tells beforehand whether a folder can be written: there the user's own folder is the place.
+bool takes_the_users_files([[maybe_unused]] const QString& pack) {
+#ifdef Q_OS_WIN
+  return false;
+#else
+  return QFileInfo(pack).isWritable();
+#endif
+}
+
 [[noreturn]] void fail(const QString& what, const Text& path) {
   throw FileError((what + ": " + to_qt(path)).toStdString());
 }
@@ -27,7 +37,7 @@ QString folder_of(const QString& path) { return path.left(path.lastIndexOf('/'))
 
 QtFiles::QtFiles(QString pack, QString user)
     : pack_(std::move(pack)), user_(std::move(user)), application_roots_{pack_} {
-  if (!QFileInfo(pack_).isWritable()) application_roots_.prepend(user_ + "/alkalmazas");
+  if (!takes_the_users_files(pack_)) application_roots_.prepend(user_ + "/alkalmazas");
 }
 
 QString QtFiles::find_pack() {

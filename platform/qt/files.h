@@ -59,7 +59,7 @@ class QtFiles : public Files {
 
   QString pack_;
   QString user_;
-  /// The pack, behind a folder of the user's where the pack is read-only.
+  /// The pack, behind a folder of the user's where the pack is read-only, and always on Windows.
   QStringList application_roots_;
   mutable QHash<QString, Listing> listings_;
 };

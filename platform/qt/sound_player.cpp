@@ -2,6 +2,7 @@
 
 #include "platform/qt/sound_font.h"
 
+#include <QFile>
 #include <SDL.h>
 #include <algorithm>
 #include <cmath>
@@ -31,6 +32,9 @@ constexpr milliseconds watch_tick{40};
 /// without a next one the memory is given back.
 constexpr milliseconds keep_released{10'000};
 
+/// A tune may have been recorded for computers without instruments: the recording has its name but for the ending.
+constexpr char recording_ending[] = ".ogg";
+
 constexpr char16_t no_device[] = u"Nem található működő hangeszköz, ezért a program most hang nélkül fut.";
 constexpr char16_t no_instruments[] =
     u"Nem található hangszerkészlet (General MIDI sound font), ezért a háttérzene nem szól.";
@@ -51,6 +55,13 @@ std::vector<std::int16_t> make_beep() {
     samples.insert(samples.end(), mixer_channels, sample);
   }
   return samples;
+}
+
+/// The recording that lies beside a tune; null where there is none that can be played.
+Mix_Music* load_recording(const std::string& tune) {
+  const std::string recording = tune.substr(0, tune.rfind('.')) + recording_ending;
+  if (!QFile::exists(QString::fromStdString(recording))) return nullptr;
+  return Mix_LoadMUS_RW(SDL_RWFromFile(recording.c_str(), "rb"), SDL_TRUE);
 }
 
 std::size_t index(MediaAlias alias) { return static_cast<std::size_t>(alias); }
@@ -174,6 +185,7 @@ void SoundPlayer::set_silence_reason(std::u16string reason) {
 }
 
 void SoundPlayer::open_device() {
+  SDL_SetMainReady();                            // the program has begun without SDL
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1"); // ending the program is not SDL's business
   SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, "Cserkó");
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) == 0) {
@@ -303,13 +315,16 @@ std::optional<milliseconds> SoundPlayer::player_upkeep() {
 
 void SoundPlayer::load_music(unsigned number, const std::string& path) {
   if (title_number(MediaAlias::Midi) != number) return;
-  choose_sound_font();
-  const bool font_usable = is_sound_font(sound_font_);
-  // Without a font of ours the mixer may know instruments of its own; a font that is none would play silence.
-  Mix_Music* music = font_usable || sound_font_.empty() ? Mix_LoadMUS(path.c_str()) : nullptr;
+  Mix_Music* music = load_recording(path);
   if (music == nullptr) {
-    if (!font_usable) set_silence_reason(no_instruments);
-    return set_fate(MediaAlias::Midi, number, font_usable ? TitleFate::Broken : TitleFate::Mute);
+    choose_sound_font();
+    const bool font_usable = is_sound_font(sound_font_);
+    // Without a font of ours the mixer may know instruments of its own; a font that is none would play silence.
+    if (font_usable || sound_font_.empty()) music = Mix_LoadMUS(path.c_str());
+    if (music == nullptr) {
+      if (!font_usable) set_silence_reason(no_instruments);
+      return set_fate(MediaAlias::Midi, number, font_usable ? TitleFate::Broken : TitleFate::Mute);
+    }
   }
   all_music_.push_back(music);
   free_released_music();

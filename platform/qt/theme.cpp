@@ -3,6 +3,8 @@
 #include "platform/qt/theme_style.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFontDatabase>
 #include <QPalette>
 #include <QScreen>
 #include <algorithm>
@@ -16,6 +18,13 @@ namespace {
 double luminance(const QColor& color) {
   const auto light = [](double part) { return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4); };
   return 0.2126 * light(color.redF()) + 0.7152 * light(color.greenF()) + 0.0722 * light(color.blueF());
+}
+
+// What lies beside the program: a system may lack the serif that the windows are laid out for.
+void load_fonts() {
+  const QDir folder(QCoreApplication::applicationDirPath() + "/fonts");
+  for (const QString& font : folder.entryList({"*.ttf"}, QDir::Files))
+    QFontDatabase::addApplicationFont(folder.filePath(font));
 }
 
 } // namespace
@@ -35,6 +44,7 @@ double contrast(const QColor& a, const QColor& b) {
 }
 
 void apply() {
+  load_fonts();
   QApplication::setStyle(new ThemeStyle(screen_zoom()));
   QPalette colors; // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks): the application owns the style
   colors.setColor(QPalette::Window, paper);

@@ -20,7 +20,7 @@ inline constexpr QColor accent(24, 98, 94);
 /// Height of a menu bar, in pixels of a small screen.
 inline constexpr double menu_bar_height = 27;
 
-/// Gives the application its style and colours.
+/// Gives the application its style, colours, and the fonts of the folder `fonts` beside the program.
 void apply();
 
 /// How much larger than a small screen the screen is, in quarter steps: unscaled dialogs are not tiny on a large one.

@@ -125,6 +125,22 @@ TEST_F(SdlWave, ManyQuickTitlesAndAnEndAtAnyMomentAreFine) {
   }
 }
 
+// What a recording is told by its beginning, whatever its name ends in.
+TEST_F(SdlWave, ARecordingBesideATunePlaysWithoutInstruments) {
+  qputenv(sound_font_variable, real("nincs.sf2").toUtf8());
+  write("dal.mid", one_tone_tune(2));
+  write("dal.ogg", wave_file(sine(300, 1.5, 20'000)));
+  start_recording();
+  ASSERT_EQ(open_midi(u"dal.mid"), 0);
+  ASSERT_EQ(send(u"play midi "), 0);
+  EXPECT_EQ(midi_mode(), u"playing");
+  ASSERT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
+  EXPECT_EQ(media_->silence_reason(), u"");
+  const auto heard = end_and_listen();
+  EXPECT_GT(peak(heard), 3'000);
+  EXPECT_LT(peak(heard), 16'000) << "a background";
+}
+
 class SdlMusic : public SdlMediaTest {
  protected:
   void SetUp() override {
@@ -143,6 +159,17 @@ TEST_F(SdlMusic, ATuneIsPlayingAtOnceAndIsHeardToItsEnd) {
   const auto heard = end_and_listen();
   EXPECT_GT(peak(heard), 300);
   EXPECT_LT(peak(heard), 16'000) << "a background";
+}
+
+TEST_F(SdlMusic, BesideABrokenRecordingTheTuneItselfIsHeard) {
+  write("dal.mid", one_tone_tune(2));
+  write("dal.ogg", Bytes(200, 'x'));
+  start_recording();
+  ASSERT_EQ(open_midi(u"dal.mid"), 0);
+  ASSERT_EQ(send(u"play midi "), 0);
+  ASSERT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
+  EXPECT_EQ(media_->silence_reason(), u"");
+  EXPECT_GT(peak(end_and_listen()), 300);
 }
 
 TEST_F(SdlMusic, PausedMusicIsSilentAndGoesOnWithoutAClick) {

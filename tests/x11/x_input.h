@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <memory>
 
-struct xcb_connection_t;
-
 namespace cserko {
 
 /// A connection of its own to the X server of the environment. Throws std::runtime_error where there is none, or none
@@ -14,10 +12,13 @@ namespace cserko {
 class XInput {
  public:
   XInput();
+  ~XInput();
+  XInput(const XInput&) = delete;
+  XInput& operator=(const XInput&) = delete;
 
   /// Where the pointer is: the innermost window under it, and the place in that window, pixels.
   struct Pointer {
-    std::uint32_t window = 0;
+    std::uintptr_t window = 0;
     QPoint place;
   };
 
@@ -31,14 +32,8 @@ class XInput {
   void key(std::uint32_t symbol, bool down);
 
  private:
-  void fake(std::uint8_t type, std::uint8_t detail, QPoint place = {});
-  std::uint8_t key_code(std::uint32_t symbol) const;
-
-  struct Disconnect {
-    void operator()(xcb_connection_t* connection) const;
-  };
-  std::unique_ptr<xcb_connection_t, Disconnect> connection_;
-  std::uint32_t root_ = 0;
+  struct Server;
+  std::unique_ptr<Server> server_;
 };
 
 } // namespace cserko
