@@ -8,10 +8,9 @@
 #include "feedback/frm_színezőmegnyitás.h"
 #include "feedback/message_panels.h"
 #include "platform/bitmap.h"
-#include "platform/input.h"
 #include "platform/qt/qt_images.h"
 #include "tests/drawing_qt/pdf_images.h"
-#include "tests/x11/x_hand.h"
+#include "tests/x11/steps.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -19,114 +18,45 @@
 #include <QFileDialog>
 #include <QTemporaryDir>
 #include <cstdio>
-#include <stdexcept>
 
 namespace {
 
 using namespace cserko;
 
-constexpr int pace = 20;         // ms between two looks
-constexpr int patience = 120000; // ms for all of it
 constexpr int period_key = 190;
 constexpr int red_swatch = 5;
 constexpr int blue_swatch = 13;
 
-void expect(bool holds, const std::string& otherwise) {
-  if (!holds) throw std::runtime_error(otherwise);
-}
-
-/// Does one thing after the other, each when the one before has had its effect.
-class Painter : public QObject {
+class Painter : public Steps {
  public:
   Painter(Session& session, WatchedPlatform& platform, QString home)
-      : session_(session),
-        platform_(platform),
-        home_(std::move(home)),
-        hand_([&platform](const Element& element, Point point) { return platform.spot_of(element, point); }) {
+      : Steps(platform), session_(session), home_(std::move(home)) {
     plan();
-    connect(&timer_, &QTimer::timeout, this, [this] { look(); });
-    timer_.start(pace);
-    waiting_.start();
   }
-
-  const std::string& trouble() const { return trouble_; }
-  bool done() const { return next_ == steps_.size() && trouble_.empty(); }
 
  private:
-  struct Step {
-    std::string what;
-    std::function<bool()> ready;
-    std::function<void()> deed;
-  };
-
-  void look() {
-    if (!hand_.idle()) return;
-    try {
-      expect(waiting_.elapsed() <= patience, "nothing goes on");
-      expect(hand_.lost() == 0, "presses of the hand reached no window");
-      if (next_ == steps_.size()) {
-        stop();
-      } else if (steps_[next_].ready()) {
-        present_ = steps_[next_].what;
-        steps_[next_++].deed();
-      }
-    } catch (const std::exception& error) {
-      const Window* front = platform_.active_window();
-      trouble_ = std::string(error.what()) + ", at: " + present_ +
-                 ", before: " + (next_ < steps_.size() ? steps_[next_].what : "the end") + ", with " +
-                 (front == nullptr ? "no window" : to_utf8(front->Name)) + " at the front";
-      stop();
-    }
-  }
-
-  void stop() {
-    timer_.stop();
-    platform_.end_process();
-    // A dialog of the system has a loop of its own.
-    if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
-  }
-
   frm_rajz& board() { return session_.window<frm_rajz>(); }
   PixelImage seen() { return board().board().image(); }
   Point at(double across, double down) { return {board().kép.Width * across, board().kép.Height * down}; }
   Color color_at(double across, double down) { return board().board().color_at(at(across, down)); }
   Color swatch(int index) { return board().szín[index].BackColor; }
 
-  bool at_front(TextView name) {
-    Window* front = platform_.active_window();
-    return front != nullptr && front->Name == name && front->Enabled && platform_.settled(*front);
-  }
-  std::function<bool()> in(TextView name) {
-    return [this, name] {
-      return at_front(name) && QApplication::activeModalWidget() == platform_.view_of(*platform_.active_window());
-    };
-  }
   static bool file_dialog() {
     const auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
     return dialog != nullptr && dialog->isVisible() && dialog->isActiveWindow() && dialog->focusWidget() != nullptr;
   }
 
-  void then(TextView window, const std::string& what, std::function<void()> deed) {
-    steps_.push_back({what, in(window), std::move(deed)});
-  }
-  void on_board(const std::string& what, std::function<void()> deed) { then(u"frm_rajz", what, std::move(deed)); }
+  void on_board(const std::string& what, std::function<void()> deed) { in(u"frm_rajz", what, std::move(deed)); }
   /// Types a file name into the dialog at the front.
   void type_name(const std::string& name) {
-    steps_.push_back({"type " + name, file_dialog, [this, name] {
-                        for (const char letter : name)
-                          hand_.key(letter == '.' ? period_key : letter - 'a' + 'A', shift::none);
-                        hand_.key(key::enter, shift::none);
-                      }});
+    then("type " + name, file_dialog, [this, name] {
+      for (const char letter : name) hand().key(letter == '.' ? period_key : letter - 'a' + 'A', shift::none);
+      hand().key(key::enter, shift::none);
+    });
   }
 
   void plan() {
-    then(u"frm_főablak", "open the drawing board",
-         // Behind this look: the timer that looks does not run while it waits for a window.
-         [this] {
-           QTimer::singleShot(0, this, [this] {
-             platform_.act([this] { input::click(session_.window<frm_főablak>().mnu_jutalom_rajz); });
-           });
-         });
+    choose(u"frm_főablak", u"mnu_jutalomjáték", u"mnu_jutalom_rajz");
     draw_with_tools();
     save_and_open();
     make_a_page();
@@ -135,32 +65,32 @@ class Painter : public QObject {
   }
 
   void draw_with_tools() {
-    on_board("pen", [this] { hand_.draw(board().kép, {at(0.1, 0.1), at(0.3, 0.1), at(0.3, 0.3), at(0.12, 0.28)}); });
+    on_board("pen", [this] { hand().draw(board().kép, {at(0.1, 0.1), at(0.3, 0.1), at(0.3, 0.3), at(0.12, 0.28)}); });
     on_board("look at the stroke", [this] {
       expect(color_at(0.2, 0.1) == black && color_at(0.3, 0.2) == black, "the pen does not draw");
-      hand_.click(board().cmd_művelet[frm_rajz::rectangle]);
-      hand_.draw(board().kép, {at(0.4, 0.2), at(0.5, 0.5), at(0.8, 0.8)});
+      hand().click(board().cmd_művelet[frm_rajz::rectangle]);
+      hand().draw(board().kép, {at(0.4, 0.2), at(0.5, 0.5), at(0.8, 0.8)});
     });
     on_board("look at the rectangle", [this] {
       expect(color_at(0.4, 0.5) == black && color_at(0.6, 0.8) == black, "no rectangle");
-      hand_.click(board().cmd_művelet[frm_rajz::straight_line]);
-      hand_.draw(board().kép, {at(0.4, 0.5), at(0.6, 0.5), at(0.8, 0.5)});
+      hand().click(board().cmd_művelet[frm_rajz::straight_line]);
+      hand().draw(board().kép, {at(0.4, 0.5), at(0.6, 0.5), at(0.8, 0.5)});
     });
     on_board("look at the line", [this] {
       expect(color_at(0.6, 0.5) == black, "no line");
-      hand_.click(board().cmd_művelet[frm_rajz::fill]);
-      hand_.click(board().szín[red_swatch]);
-      hand_.draw(board().kép, {at(0.6, 0.35)});
+      hand().click(board().cmd_művelet[frm_rajz::fill]);
+      hand().click(board().szín[red_swatch]);
+      hand().draw(board().kép, {at(0.6, 0.35)});
     });
     on_board("look at the fill", [this] {
       expect(color_at(0.6, 0.35) == swatch(red_swatch) && color_at(0.45, 0.3) == swatch(red_swatch), "not filled");
       expect(color_at(0.6, 0.65) == white, "the fill has passed the line");
-      hand_.click(board().cmd_művelet[frm_rajz::eraser]);
-      hand_.draw(board().kép, {at(0.5, 0.35), at(0.55, 0.35)});
+      hand().click(board().cmd_művelet[frm_rajz::eraser]);
+      hand().draw(board().kép, {at(0.5, 0.35), at(0.55, 0.35)});
     });
     on_board("look at what is wiped", [this] {
       expect(color_at(0.52, 0.35) == white, "not wiped");
-      hand_.click(board().cmd_undo);
+      hand().click(board().cmd_undo);
     });
     on_board("look at what is back", [this] {
       expect(color_at(0.52, 0.35) == swatch(red_swatch), "not taken back");
@@ -175,55 +105,55 @@ class Painter : public QObject {
   }
 
   void save_and_open() {
-    on_board("save", [this] { hand_.key('S', shift::control); });
+    on_board("save", [this] { hand().key('S', shift::control); });
     type_name("kep");
     on_board("clear", [this] {
       expect(file(home_ + "/kep.bmp") == drawing_, "the saved file is not the drawing");
-      hand_.click(board().cmd_törlés);
+      hand().click(board().cmd_törlés);
     });
     on_board("open", [this] {
       expect(is_blank(seen()), "not cleared");
-      hand_.click(board().cmd_megnyit);
+      hand().click(board().cmd_megnyit);
     });
     type_name("kep.bmp");
     on_board("look at what was opened", [this] { expect(seen() == drawing_, "not opened as it was"); });
   }
 
   void make_a_page() {
-    on_board("make a page", [this] { hand_.click(board().Command1); });
+    on_board("make a page", [this] { hand().click(board().Command1); });
     on_board("open the pages", [this] {
       expect(file(home_ + "/user/cserko/kifest/0.kif") == drawing_, "no page was made");
-      hand_.click(board().cmd_színező);
+      hand().click(board().cmd_színező);
     });
-    then(u"frm_színezőmegnyitás", "choose the own page", [this] {
-      hand_.key(key::end, shift::none);
-      hand_.key(key::enter, shift::none);
+    in(u"frm_színezőmegnyitás", "choose the own page", [this] {
+      hand().key(key::end, shift::none);
+      hand().key(key::enter, shift::none);
     });
     on_board("colour it", [this] {
       expect(seen() == drawing_, "the page is not shown");
       expect(board().chk_vonalnem.ticked(), "black is not protected");
-      hand_.click(board().cmd_művelet[frm_rajz::fill]);
-      hand_.click(board().szín[blue_swatch]);
-      hand_.draw(board().kép, {at(0.6, 0.65)});
+      hand().click(board().cmd_művelet[frm_rajz::fill]);
+      hand().click(board().szín[blue_swatch]);
+      hand().draw(board().kép, {at(0.6, 0.65)});
     });
     on_board("try to colour black", [this] {
       expect(color_at(0.6, 0.65) == swatch(blue_swatch), "the page is not coloured");
       drawing_ = seen();
-      hand_.draw(board().kép, {at(0.6, 0.5)});
+      hand().draw(board().kép, {at(0.6, 0.5)});
     });
     on_board("look at black", [this] { expect(seen() == drawing_, "black was coloured"); });
   }
 
   void print() {
-    on_board("print", [this] { hand_.click(board().cmd_nyomtat); });
-    then(u"szövegüzenet", "no printer", [this] { hand_.click(session_.window<szövegüzenet>().Command1); });
+    on_board("print", [this] { hand().click(board().cmd_nyomtat); });
+    in(u"szövegüzenet", "no printer", [this] { hand().click(session_.window<szövegüzenet>().Command1); });
     type_name("nyomat");
-    then(u"frm_szövegüzenet", "printing", [this] {
+    in(u"frm_szövegüzenet", "printing", [this] {
       QFile pdf(home_ + "/nyomat.pdf");
       expect(pdf.open(QIODevice::ReadOnly), "no PDF file");
       const QList<QImage> images = test::pdf_images(pdf.readAll());
       expect(images.size() == 1 && from_qt(images[0]) == drawing_, "the drawing is not in the PDF file");
-      hand_.click(session_.window<frm_szövegüzenet>().cmd_ok);
+      hand().click(session_.window<frm_szövegüzenet>().cmd_ok);
     });
   }
 
@@ -232,27 +162,19 @@ class Painter : public QObject {
       board().Timer2.Enabled = true;
       board().Timer2.Interval = 300;
     });
-    then(u"frm_szövegüzenet", "back to the letters", [this] {
+    in(u"frm_szövegüzenet", "back to the letters", [this] {
       expect(board().percek >= 2, "too early");
-      hand_.click(session_.window<frm_szövegüzenet>().cmd_ok);
+      hand().click(session_.window<frm_szövegüzenet>().cmd_ok);
     });
-    then(u"frm_főablak", "the end", [this] {
+    in(u"frm_főablak", "the end", [this] {
       expect(!session_.loaded<frm_rajz>(), "the drawing board is still there");
       expect(file(home_ + "/user/cserko/temp.bmp") == drawing_, "the work file is not the drawing");
     });
   }
 
   Session& session_;
-  WatchedPlatform& platform_;
   QString home_;
-  XHand hand_;
-  std::vector<Step> steps_;
-  std::size_t next_ = 0;
-  std::string present_ = "the start";
   PixelImage drawing_;
-  QTimer timer_;
-  QElapsedTimer waiting_;
-  std::string trouble_;
 };
 
 } // namespace

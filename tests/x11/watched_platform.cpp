@@ -1,7 +1,13 @@
 #include "tests/x11/watched_platform.h"
 
+#include "platform/qt/qt_text.h"
+
+#include <QApplication>
+#include <QMenu>
+#include <QMenuBar>
 #include <QWindow>
 #include <cmath>
+#include <optional>
 #include <stdexcept>
 
 namespace cserko {
@@ -21,8 +27,35 @@ QPoint WatchedPlatform::client_corner(const Window& window) const {
   return view->mapToGlobal(QPoint(0, 0));
 }
 
+namespace {
+
+template<class Bar> std::optional<Spot> spot_of_entry(Bar& bar, QWidget& window, const QString& caption) {
+  for (QAction* action : bar.actions()) {
+    // Behind the caption stands the key.
+    if (action->text().section('\t', 0, 0) != caption || !action->isEnabled()) continue;
+    return Spot{&window, bar.mapTo(&window, bar.actionGeometry(action).center())};
+  }
+  return std::nullopt;
+}
+
+// Menu entries have no widgets: the bar, or the menu that is open, has places for them.
+Spot spot_of_menu(const Element& item, WindowView& view) {
+  const QString caption = to_qt(item.Caption);
+  std::optional<Spot> spot;
+  if (item.container() == nullptr) {
+    if (auto* bar = view.findChild<QMenuBar*>()) spot = spot_of_entry(*bar, view, caption);
+  } else if (auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+    spot = spot_of_entry(*menu, *menu, caption);
+  }
+  if (!spot) throw std::logic_error("the menu entry is not on the screen: " + to_utf8(item.Name));
+  return *spot;
+}
+
+} // namespace
+
 Spot WatchedPlatform::spot_of(const Element& element, Point point) const {
   WindowView* view = view_of(element.window());
+  if (view != nullptr && element.kind() == ElementKind::MenuItem) return spot_of_menu(element, *view);
   const QWidget* widget = view != nullptr ? view->widget_of(element) : nullptr;
   if (widget == nullptr) throw std::logic_error("the element is not on the screen: " + to_utf8(element.Name));
   const double scale = fonts().scale();

@@ -33,7 +33,7 @@ class WatchedPlatform : public QtPlatform {
   bool settled(const Window& window) const;
   /// Where the client area of a shown window begins on the screen, pixels.
   QPoint client_corner(const Window& window) const;
-  /// Where a point of an element (twips, its own coordinates) is shown.
+  /// Where a point of an element (twips, its own coordinates) is shown; of a menu entry, where its middle is.
   Spot spot_of(const Element& element, Point point) const;
 
   double random() override;
