@@ -204,8 +204,10 @@ void Session::close_down() {
   feedback.hang_lejátszás({});
   feedback.zene_lejátszás({});
   delete_work_file(platform_);
+  const Text launcher = alapkönyvtár + u"portál.exe";
   try {
-    platform_.start_process(alapkönyvtár + u"portál.exe klki", ProcessWindow::Normal);
+    // The suite may have been installed without the launcher.
+    if (platform_.program_exists(launcher)) platform_.start_process(launcher + u" klki", ProcessWindow::Normal);
   } catch (const std::exception& error) {
     platform_.report_error(from_utf8(error.what()));
   }

@@ -561,7 +561,7 @@ void QtPlatform::start_process(const Text& command_line, ProcessWindow) {
     throw std::runtime_error(("Ez a program nem indítható el: " + file.fileName()).toStdString());
 }
 
-bool QtPlatform::program_exists(const Text& path) const { return QFileInfo(native(path)).isFile(); }
+bool QtPlatform::program_exists(const Text& path) const { return QFileInfo(program_path(to_qt(path))).isFile(); }
 
 std::optional<Text> QtPlatform::registry_value(const Text& key, const Text& name) const {
 #ifdef Q_OS_WIN

@@ -17,6 +17,7 @@ class MainTest : public SuiteTest {
   MainTest() {
     put_words({u"alma", u"körte", u"szilva"});
     put_app_file(u"dysmid\\a.mid");
+    machine.programs.insert(u"c:\\cserko\\portál.exe");
     assemble();
   }
 
@@ -177,7 +178,16 @@ TEST_F(MainTest, TheGraphicExitClosesSoundAndMusicBeforeTheLauncherStarts) {
             (Diary{"close hang", "close midi", "start c:\\cserko\\portál.exe klki", "end"}));
 }
 
-TEST_F(MainTest, AMissingLauncherIsReportedAndTheProgramEndsAllTheSame) {
+TEST_F(MainTest, WithoutTheLauncherTheGraphicWindowIsLeftWithoutAWord) {
+  put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
+  machine.programs.clear();
+  then_close();
+  session().Main();
+  EXPECT_TRUE(machine.processes.empty());
+  EXPECT_TRUE(machine.ended());
+}
+
+TEST_F(MainTest, ALauncherThatDoesNotStartIsReportedAndTheProgramEndsAllTheSame) {
   put_settings(u"főablak.ini", {u" 1 ", u" 0 ", u" 0 "});
   machine.processes_fail = true;
   then_close();
