@@ -1,6 +1,6 @@
 #!/bin/sh
 # Plays the tour and leafs through the help on screens of three sizes, each on an X server of its own, with the same
-# chance each time.
+# chance each time, and lays all pictures side by side on one page.
 #
 # Usage: run-tour.sh BUILD OUT [WIDTHxHEIGHT...]
 set -eu
@@ -21,5 +21,6 @@ for size; do
   "$on_display" "$size" "$build/cserko-tour" "$out/$size" || failed=1
   "$on_display" "$size" "$build/cserko-help-tour" "$pages" "$out/$size" || failed=1
 done
-echo "The pictures are in $out."
+"$(dirname "$0")/contact-sheet.sh" "$out" || failed=1
+echo "The pictures are in $out, all of them side by side in $out/index.html."
 exit $failed
