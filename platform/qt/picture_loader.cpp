@@ -70,7 +70,8 @@ QString picture_file(const QString& path) {
 std::shared_ptr<const LoadedPicture> load_picture(const QString& path) {
   QFile file(picture_file(path));
   if (file.fileName().isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > kMostFileBytes) return nullptr;
-  return read_picture(file.read(kMostFileBytes));
+  // As much as there is: what is read stays with a metafile, and room for more would stay with it too.
+  return read_picture(file.read(file.size()));
 }
 
 std::shared_ptr<const LoadedPicture> read_picture(const QByteArray& bytes) {

@@ -3,6 +3,9 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace cserko::test {
 namespace {
@@ -46,6 +49,20 @@ TEST_F(Pictures, AllKindsAreRead) {
     EXPECT_EQ(picture->stretched({30, 90}).size(), QSize(30, 90));
   }
 }
+
+#ifdef __GLIBC__
+TEST_F(Pictures, ASmallPictureTakesLittleMemory) {
+  const QString file = write_metafile("a.wmf", kRed);
+  const auto in_use = [] {
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+  };
+  const std::size_t before = in_use();
+  const auto picture = load_picture(file);
+  ASSERT_TRUE(picture);
+  EXPECT_LT(in_use(), before + 100'000U);
+}
+#endif
 
 TEST_F(Pictures, ContentTellsTheKindNotTheName) {
   write_image("x.png", "PNG", Qt::blue);
