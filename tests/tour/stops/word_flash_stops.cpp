@@ -24,8 +24,16 @@ void show_longest_word(const FlashVisit& visit, frm_szóvillám& window) {
     return kszöveg::letter_count(record.név) <= 17 ? record.név.size() : 0;
   });
   PictureBox& right = window.pic_feladványkép[window.helyes_hely()];
-  show_record_picture(visit.session(), right, longest);
-  right.Tag = to_text(longest);
+  const auto show = [&visit](PictureBox& picture, int record) {
+    show_record_picture(visit.session(), picture, record);
+    picture.Tag = to_text(record);
+  };
+  // Where chance has laid it into the ring already, the two change places: no word stands there twice.
+  const int drawn = number_in(right.Tag).value();
+  window.pic_feladványkép.each([&](PictureBox& picture) {
+    if (picture.Tag == to_text(longest)) show(picture, drawn);
+  });
+  show(right, longest);
   show_word(window);
 }
 
