@@ -26,8 +26,8 @@ class frm_rajz : public Window {
   PictureBox aktívvastagság{*this, u"aktívvastagság", {1680, 3300, 690, 690}};
   Button cmd_undo{*this, u"cmd_undo", {120, 4110, 1080, 660}, u"Vissza"};
   Button cmd_redo{*this, u"cmd_redo", {1290, 4110, 1080, 660}, u"Újra"};
-  CheckBox chk_vonalnem{*this, u"chk_vonalnem", {120, 4775, 2250, 880}, u"Fekete színezésének tiltása"};
-  CheckBox chk_foltfestés{*this, u"chk_foltfestés", {120, 5660, 2250, 660}, u"Foltfestés"};
+  CheckBox chk_vonalnem{*this, u"chk_vonalnem", {120, 4820, 2250, 960}, u"Fekete színezésének tiltása"};
+  CheckBox chk_foltfestés{*this, u"chk_foltfestés", {120, 5790, 2250, 530}, u"Foltfestés"};
   Label lbl_idő{*this, u"lbl_idő", {120, 6330, 2250, 450}};
   Label aktívszín{*this, u"aktívszín", {120, 6900, 2250, 1380}};
   ElementArray<Label> szín{*this, u"szín", {2490, 6900, 650, 675}};
