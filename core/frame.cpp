@@ -114,9 +114,15 @@ void fit_caption(Element& control, Text& text) {
   }
 }
 
+// What is left of a box inside its border, which is painted over whatever is drawn in the box.
+Size inner_size(const PictureBox& box) {
+  const double borders = box.Border ? 2 * twips_per_pixel : 0;
+  return {box.Width - borders, box.Height - borders};
+}
+
 // The name in white all around its place, so that it can be read on any picture.
 void print_halo(PictureBox& box, Point place, TextView text) {
-  const double radius = std::floor(box.Width / 75);
+  const double radius = std::floor(inner_size(box).width / 75);
   const double step = 3.1415 / (box.Height / 300);
   double angle = 0;
   while (angle <= 6.283) {
@@ -135,10 +141,13 @@ void print_name(PictureBox& box, TextView name, bool outlined) {
   const Platform& platform = box.window().platform();
   box.Font.name = text_font;
   box.Font.size = 8;
-  box.Font.size = first_overfilling_size(platform, box.Font, name, {box.Width, box.Height / 4}) - 1;
+  const Size inner = inner_size(box);
+  box.Font.size = first_overfilling_size(platform, box.Font, name, {inner.width, inner.height / 4}) - 1;
   const Size extent = platform.measure(box.Font, name);
+  // Drawing begins outside the border, so the name ends a pixel above the lower one: the pixel that rounding may cost,
+  // or the tails of g, j, p and y are lost.
   const Point place{static_cast<double>(rounded(box.Width / 2 - extent.width / 2)),
-                    static_cast<double>(rounded(box.Height - extent.height))};
+                    static_cast<double>(rounded(inner.height - extent.height))};
   if (outlined) {
     print_halo(box, place, name);
   } else {

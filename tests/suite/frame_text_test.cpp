@@ -140,6 +140,22 @@ TEST_F(TextTest, TheNameOfAPictureIsFittedByTheWholeWidthToo) {
   EXPECT_EQ(sheet().box.Font.size, 21);
 }
 
+TEST_F(TextTest, TheNameOfAPictureEndsAboveItsBorder) {
+  sheet().box.Border = true;
+  kép_rajzolás(session(), sheet().box, 0);
+  // The border takes 15 at every side; above the lower one a pixel of 15 is clear.
+  EXPECT_EQ(sheet().box.Font.size, 31);
+  EXPECT_EQ(drawings().back().from, (Point{std::nearbyint(name_place.x), name_place.y - 30}));
+}
+
+TEST_F(TextTest, TheNameOfAPictureIsFittedBetweenItsBorders) {
+  sheet().box.Border = true;
+  sheet().box.Width = 980;
+  kép_rajzolás(session(), sheet().box, 0);
+  // 46 × 21 = 966 would fit into 980, but not into 950.
+  EXPECT_EQ(sheet().box.Font.size, 20);
+}
+
 TEST_F(TextTest, ThePictureComesFromTheRecordAndTheTagHoldsItsIndex) {
   kép_rajzolás(session(), sheet().box, 2);
   ASSERT_NE(sheet().box.Picture, nullptr);
