@@ -106,7 +106,8 @@ void paint_border(QPainter& painter, const QRect& place, const QColor& color, do
 }
 
 void paint_focus_ring(QPainter& painter, const QRectF& place, double scale, RingGround ground) {
-  const double width = std::max(3.0, 45 * scale);
+  // On a narrow letter a ring of full width would run into its strokes.
+  const double width = std::clamp(place.width() / 8, 1.0, std::max(3.0, 45 * scale));
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setBrush(Qt::NoBrush);
   const auto draw = [&](const QColor& color, double inset) {
