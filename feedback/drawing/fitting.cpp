@@ -10,6 +10,7 @@ namespace cserko {
 namespace {
 
 constexpr std::size_t few_colors = 64;
+constexpr float same_votes = 1e-4F; // of the votes: so much is the work of rounding
 
 std::uint32_t number_of(Color color) {
   return static_cast<std::uint32_t>(color.red) << 16 | static_cast<std::uint32_t>(color.green) << 8 | color.blue;
@@ -64,7 +65,8 @@ template<class F> void each_share(const PixelImage& image, const Share& across, 
   }
 }
 
-// The colour that counts most.
+// The colour that counts most. Where two count the same, which is so all along an edge that runs half-way between two
+// points, the darker one is taken: rounding would choose now this, now that, and make a comb of the edge.
 Color elected(const PixelImage& image, const Share& across, const Share& down) {
   std::array<std::pair<Color, float>, few_colors> votes;
   std::size_t candidates = 0;
@@ -74,8 +76,13 @@ Color elected(const PixelImage& image, const Share& across, const Share& down) {
     if (i == candidates) votes[candidates++] = {color, 0.0F};
     votes[i].second += weight;
   });
-  const auto* best = std::max_element(votes.begin(), votes.begin() + candidates,
-                                      [](const auto& a, const auto& b) { return a.second < b.second; });
+  const auto brightness = [](Color color) { return color.red + color.green + color.blue; };
+  const auto* best = votes.begin();
+  for (const auto* vote = votes.begin() + 1; vote < votes.begin() + candidates; ++vote) {
+    const float lead = vote->second - best->second;
+    const bool tie = std::abs(lead) <= same_votes * best->second;
+    if (tie ? brightness(vote->first) < brightness(best->first) : lead > 0) best = vote;
+  }
   return best->first;
 }
 

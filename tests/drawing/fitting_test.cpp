@@ -58,6 +58,28 @@ TEST(Fitting, AnEnlargedEdgeIsSmoothAndNotMadeOfBlocks) {
   }
 }
 
+TEST(Fitting, AnEdgeHalfWayBetweenTwoPointsIsStraight) {
+  // A line of the page whose edge lies just between two points of the place: it ends alike in every row.
+  PixelImage line{120, 120, {}};
+  for (int y = 0; y < 120; ++y) {
+    for (int x = 0; x < 120; ++x) line.pixels.push_back(x >= 46 && x < 58 ? black : white);
+  }
+  PixelImage lying = line;
+  for (int y = 0; y < 120; ++y) {
+    for (int x = 0; x < 120; ++x) lying.pixels[static_cast<std::size_t>(y * 120 + x)] = line.at(y, x);
+  }
+  for (const int side : {90, 150, 180, 210}) {
+    const PixelImage shown = fitted_to(line, side, side);
+    const PixelImage shown_lying = fitted_to(lying, side, side);
+    for (int y = 1; y < side; ++y) {
+      for (int x = 0; x < side; ++x) {
+        ASSERT_EQ(shown.at(x, y), shown.at(x, 0)) << side;
+        ASSERT_EQ(shown_lying.at(y, x), shown_lying.at(0, x)) << side;
+      }
+    }
+  }
+}
+
 TEST(Fitting, APhotographIsSoftened) {
   PixelImage shades{100, 1, {}};
   for (int x = 0; x < 100; ++x) shades.pixels.push_back({static_cast<std::uint8_t>(2 * x), 0, 0});
