@@ -9,6 +9,7 @@
 #include "platform/qt/view.h"
 
 #include <QCheckBox>
+#include <QFontMetricsF>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -16,6 +17,8 @@
 #include <QStyleOptionButton>
 #include <QTabletEvent>
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 namespace cserko {
 
@@ -123,8 +126,19 @@ class LabelWidget : public ElementWidget {
  private:
   void paint_text(QPainter& painter, QPointF shift) {
     const int across = label_.Centered ? Qt::AlignHCenter : Qt::AlignLeft;
-    paint_caption(painter, QRectF(rect()).translated(shift), label_, context(), across | Qt::AlignVCenter,
-                  label_.WordWrap);
+    paint_caption(painter, QRectF(rect()).translated(shift + QPointF(overhang(), 0)), label_, context(),
+                  across | Qt::AlignVCenter, label_.WordWrap);
+  }
+
+  // A letter such as j reaches out to the left of its own place. In a label as narrow as the letter its hook would be
+  // cut off: it is moved in.
+  double overhang() const {
+    if (label_.Caption.empty()) return 0;
+    const QFontMetricsF metrics(context().fonts.font(label_.Font));
+    const double reach = -metrics.leftBearing(QChar(label_.Caption.front()));
+    if (reach <= 0) return 0;
+    const double free = label_.Centered ? width() - metrics.horizontalAdvance(lines_to_qt(label_.Caption)) : 0;
+    return std::max(0.0, reach - std::max(0.0, free) / 2);
   }
 
   // Colours that chance has chosen may be as bright as each other: an edge around the letters makes them readable.
@@ -133,8 +147,12 @@ class LabelWidget : public ElementWidget {
     const bool dark = theme::contrast(back, Qt::black) > theme::contrast(back, Qt::white);
     painter.setPen(dark ? Qt::black : Qt::white);
     const double width = std::max(1.0, context().fonts.font(label_.Font).pixelSize() / 40.0);
-    for (const QPointF side : {QPointF(-1, -1), QPointF(1, -1), QPointF(-1, 1), QPointF(1, 1)})
-      paint_text(painter, side * width);
+    // So many copies round the letter that the edge is closed at thin serifs too.
+    constexpr int copies = 16;
+    for (int i = 0; i < copies; ++i) {
+      const double angle = 2 * std::numbers::pi * i / copies;
+      paint_text(painter, QPointF(std::cos(angle), std::sin(angle)) * width);
+    }
   }
 
   Label& label_;
@@ -400,7 +418,9 @@ class LineWidget : public QWidget {
   void paintEvent(QPaintEvent*) override {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(to_qt(line_.ForeColor), line_.BorderWidth * context_.fonts.scale()));
+    // Round ends stay within the margin and join the lines of a way without corners.
+    painter.setPen(
+        QPen(to_qt(line_.ForeColor), line_.BorderWidth * context_.fonts.scale(), Qt::SolidLine, Qt::RoundCap));
     const int margin = line_margin(line_, context_);
     const QRect box = rect().adjusted(margin, margin, -margin, -margin);
     const QPoint left(box.left(), line_.Rising ? box.top() + box.height() : box.top());
