@@ -35,10 +35,6 @@ constexpr milliseconds keep_released{10'000};
 /// A tune may have been recorded for computers without instruments: the recording has its name but for the ending.
 constexpr char recording_ending[] = ".ogg";
 
-constexpr char16_t no_device[] = u"Nem található működő hangeszköz, ezért a program most hang nélkül fut.";
-constexpr char16_t no_instruments[] =
-    u"Nem található hangszerkészlet (General MIDI sound font), ezért a háttérzene nem szól.";
-
 std::vector<std::int16_t> make_beep() {
   constexpr double seconds = 0.18;
   constexpr double pitch = 523.25; // a low, round c: a remark, not an alarm

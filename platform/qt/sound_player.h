@@ -16,6 +16,11 @@
 
 namespace cserko {
 
+/// Why nothing is heard.
+inline constexpr char16_t no_device[] = u"Nem található működő hangeszköz, ezért a program most hang nélkül fut.";
+inline constexpr char16_t no_instruments[] =
+    u"Nem található hangszerkészlet (General MIDI sound font), ezért a háttérzene nem szól.";
+
 /// What has become of a title.
 enum class TitleFate : std::uint8_t {
   Underway, ///< loading, ready or sounding

@@ -65,6 +65,7 @@ class Inspector {
   }
 
   void inspect_place(const Element& element) {
+    if (element.container() != nullptr && intended(element, *element.container())) return;
     const Size room = room_of(element);
     const bool outside = element.Left < -tolerance || element.Top < -tolerance ||
                          element.Left + element.Width > room.width + tolerance ||

@@ -6,7 +6,8 @@
 
 namespace cserko::tour {
 
-/// Elements that may lie on top of each other: every element of one name on every element of the other.
+/// Elements that may lie on top of each other: every element of one name on every element of the other. Where the lower
+/// one is the container of the upper one, that may reach out of it.
 struct Overlap {
   TextView window;
   TextView upper;

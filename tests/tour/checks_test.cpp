@@ -83,6 +83,12 @@ TEST_F(TourChecks, AnElementThatReachesOutOfItsContainerIsFound) {
   EXPECT_THAT(faults(window), ElementsAre(HasSubstr("letter(0) reaches outside")));
 }
 
+TEST_F(TourChecks, AnElementThatMayLieOnItsContainerMayReachOutOfIt) {
+  window.letter[0].Left = window.board.Width - 240;
+  EXPECT_THAT(faults(window, {false, {{u"minta", u"letter", u"board"}}}), IsEmpty());
+  EXPECT_THAT(faults(window, {false, {{u"minta", u"letter", u"letter"}}}), ElementsAre(HasSubstr("letter(0)")));
+}
+
 TEST_F(TourChecks, AnElementThatReachesOutOfTheWindowIsFound) {
   window.press.Top = window.inner_height() - 240;
   EXPECT_THAT(faults(window), ElementsAre(HasSubstr("press reaches outside")));

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QTimer>
 #include <cmath>
+#include <utility>
 
 namespace cserko::tour {
 
@@ -15,6 +16,7 @@ namespace {
 constexpr int pace = 20;            // ms between two looks at the screen
 constexpr int painting_time = 3000; // ms that a window may stay blank
 constexpr int patience = 20000;     // ms until a stop counts as never reached
+constexpr int framing_time = 120;   // ms that a window manager takes to paint the frame of a new front window
 constexpr int saved_quickly = 90;   // of 100, where a PNG is packed least
 
 // Windows that are as large on every screen must fit a low one: all that do not take their share of the screen.
@@ -62,7 +64,7 @@ bool Guide::stands_still(Window& window) {
   const QImage seen = take_picture(*platform_.view_of(window));
   const bool still = seen == last_seen_;
   last_seen_ = seen;
-  if (!still) return false;
+  if (!still || at_front_since_.elapsed() < framing_time) return false;
   // A window that has just come up may stand on the screen a while before it is painted.
   return waiting_.elapsed() >= painting_time || !is_blank(seen, seen.rect());
 }
@@ -94,6 +96,7 @@ void Guide::judge(Window& window, const std::string& name, const QImage& image, 
 void Guide::start() {
   QDir().mkpath(folder_);
   waiting_.start();
+  at_front_since_.start();
   schedule();
 }
 
@@ -113,6 +116,7 @@ void Guide::turn() {
     return schedule();
   }
   Window* front = platform_.active_window();
+  if (std::exchange(front_, front) != front) at_front_since_.start();
   const bool there = front != nullptr && front->Name == stop.window && platform_.settled(*front);
   if (!there || (stop.ready && !stop.ready(*front))) {
     if (waiting_.elapsed() > patience) return give_up(stop);

@@ -78,6 +78,8 @@ class Guide : public QObject {
   std::set<Text> seen_;
   std::vector<std::string> faults_;
   QElapsedTimer waiting_;
+  const Window* front_ = nullptr; ///< What stood at the front at the last look.
+  QElapsedTimer at_front_since_;
   QImage last_seen_;
   int pictures_ = 0;
 };

@@ -11,6 +11,7 @@
 #include <QElapsedTimer>
 #include <QScreen>
 #include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTextBlock>
 #include <QWindow>
 #include <algorithm>
@@ -40,11 +41,35 @@ class Look {
     inspect_pictures();
     QScrollBar& bar = *browser_.verticalScrollBar();
     for (int screen = 1;; ++screen) {
-      photograph(screen);
+      photograph(QString::number(screen));
       if (bar.value() == bar.maximum()) break;
       if (screen == most_screens) return fault("the page does not end");
       bar.setValue(bar.value() + bar.pageStep());
     }
+  }
+
+  /// The page as it stands, with letters of the largest size.
+  void with_largest_letters() {
+    if (!await_window()) return fault("the window does not come up");
+    for (int steps = browser_.zoom_steps() - 1; steps != browser_.zoom_steps();) {
+      steps = browser_.zoom_steps();
+      browser_.zoom(1);
+    }
+    if (browser_.horizontalScrollBar()->maximum() > 0) fault("is wider than the window in the largest letters");
+    photograph("largest-letters");
+  }
+
+  /// The page, reached from another one.
+  void after_another() {
+    if (!await_window()) return fault("the window does not come up");
+    if (!browser_.isBackwardAvailable()) fault("leads to no earlier page");
+    photograph("way-back");
+  }
+
+  /// The page, whose pictures are not in it.
+  void without_pictures() {
+    if (!await_window()) return fault("the window does not come up");
+    photograph("missing-picture");
   }
 
   int pictures() const { return pictures_; }
@@ -107,14 +132,14 @@ class Look {
       fault("has a pale picture: " + format.name());
   }
 
-  void photograph(int screen) {
+  void photograph(const QString& view) {
     QCoreApplication::processEvents();
     window_.repaint();
     QCoreApplication::processEvents();
     const QImage image = cserko::tour::take_picture(window_);
     if (cserko::tour::contrast(image, image.rect()) < faintest_page) fault("is blank");
     const QString name = QString("help-%1-%2.png").arg(page_.chopped(4).replace(" - ", "-").replace(' ', '-'));
-    image.save(folder_ + '/' + name.arg(screen));
+    image.save(folder_ + '/' + name.arg(view));
     ++pictures_;
   }
 
@@ -125,6 +150,18 @@ class Look {
   int pictures_ = 0;
   std::vector<QString> faults_;
 };
+
+// The page as a file of its own, without the pictures that it shows.
+QString write_bare_page(const QString& page, const QString& folder) {
+  QFile from(page);
+  QFile to(folder + "/bare.mht");
+  if (!from.open(QIODevice::ReadOnly) || !to.open(QIODevice::WriteOnly)) return {};
+  to.write("MIME-Version: 1.0\r\nContent-Type: multipart/related; boundary=\"bare\"\r\n\r\n--bare\r\n"
+           "Content-Type: text/html; charset=utf-8\r\n\r\n");
+  to.write(cserko::HelpArchive::read(from.readAll()).page().toUtf8());
+  to.write("\r\n--bare--\r\n");
+  return to.fileName();
+}
 
 } // namespace
 
@@ -142,14 +179,23 @@ int main(int argc, char** argv) {
   int pictures = 0;
   std::vector<QString> faults;
   if (names.isEmpty()) faults.push_back("there are no help pages in " + arguments[1]);
-  for (const QString& name : names) {
+  const auto visit = [&](const QString& name, const QStringList& opened, void (Look::*deed)()) {
     HelpWindow window;
-    window.open(pages.filePath(name));
+    for (const QString& page : opened) window.open(page);
     window.showMaximized();
     Look look(window, name, arguments[2]);
-    look.all();
+    (look.*deed)();
     pictures += look.pictures();
     faults.insert(faults.end(), look.faults().begin(), look.faults().end());
+  };
+  for (const QString& name : names) visit(name, {pages.filePath(name)}, &Look::all);
+  if (!names.isEmpty()) {
+    const QString first = pages.filePath(names.first());
+    const QString last = pages.filePath(names.last());
+    visit(names.last(), {first, last}, &Look::after_another);
+    visit(names.first(), {first}, &Look::with_largest_letters);
+    const QTemporaryDir bare;
+    visit(names.first(), {write_bare_page(first, bare.path())}, &Look::without_pictures);
   }
   for (const QString& fault : faults) std::fprintf(stderr, "%s\n", qUtf8Printable(fault));
   std::printf("%d help pages, %d pictures, %zu faults\n", int(names.size()), pictures, faults.size());

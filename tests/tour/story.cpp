@@ -11,9 +11,13 @@
 #include "feedback/message_panels.h"
 #include "feedback/névjegy.h"
 #include "platform/input.h"
+#include "platform/qt/sound_player.h"
 #include "tests/tour/tour_hand.h"
 #include "tests/tour/window_stops.h"
 
+#include <QApplication>
+#include <QMenuBar>
+#include <QWindow>
 #include <algorithm>
 
 namespace cserko::tour {
@@ -40,15 +44,38 @@ void lay_out_main_window(Guide& guide, Session& session) {
   guide.picture(main_window, "main-letters-swapped", true);
 }
 
+// The menus of a main window, one after the other.
+void lay_out_menus(Guide& guide, WatchedPlatform& platform, TextView name, const std::vector<std::string>& pictures) {
+  for (std::size_t i = 0; i < pictures.size(); ++i) {
+    guide.act(name, [&platform, i](Window& window) {
+      auto* bar = platform.view_of(window)->findChild<QMenuBar*>();
+      bar->setActiveAction(bar->actions().at(static_cast<int>(i)));
+    });
+    guide.act(
+        name, [](Window&) {},
+        [](Window&) {
+          const QWidget* menu = QApplication::activePopupWidget();
+          return menu != nullptr && menu->windowHandle() != nullptr && menu->windowHandle()->isExposed();
+        });
+    guide.picture(name, pictures[i]);
+    guide.act(name, [](Window&) { QApplication::activePopupWidget()->close(); });
+  }
+}
+
+// The decoration stands still behind them.
+void lay_out_main_menus(Guide& guide, WatchedPlatform& platform) {
+  guide.act(main_window, [](Window& window) { as<frm_főablak>(window).Timer1.Enabled = false; });
+  lay_out_menus(guide, platform, main_window, {"main-menu-file", "main-menu-rewards"});
+  guide.act(main_window, [](Window& window) { as<frm_főablak>(window).Timer1.Enabled = true; });
+}
+
 void lay_out_figures(Guide& guide, Session& session) {
   constexpr TextView settings = u"frm_főablak_beállítások";
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_főablak_beállításai); });
   guide.picture(settings, "main-settings");
-  guide.act(settings, [](Window& window) {
-    auto& dialog = as<frm_főablak_beállítások>(window);
-    input::toggle(dialog.rajz);
-    input::click(dialog.OKButton);
-  });
+  guide.act(settings, [](Window& window) { input::toggle(as<frm_főablak_beállítások>(window).rajz); });
+  guide.picture(settings, "main-settings-drawing");
+  guide.act(settings, [](Window& window) { input::click(as<frm_főablak_beállítások>(window).OKButton); });
   for (int figure = 0; figure < LineDrawing::figures; ++figure) {
     guide.act(main_window, [figure](Window& window) {
       auto& main = as<frm_főablak>(window);
@@ -64,19 +91,19 @@ void lay_out_figures(Guide& guide, Session& session) {
 }
 
 // There by the settings and back again: in between the same entry stands in the menu of the other window.
-void lay_out_graphic_window(Guide& guide) {
+void lay_out_graphic_window(Guide& guide, WatchedPlatform& platform) {
   constexpr TextView graphic = u"frm_grafikus_főablak";
   constexpr TextView settings = u"frm_főablak_beállítások";
-  const auto change_over = [&] {
-    guide.act(settings, [](Window& window) {
-      auto& dialog = as<frm_főablak_beállítások>(window);
-      input::toggle(dialog.chk_grafikus_főablak);
-      input::click(dialog.OKButton);
-    });
+  const auto change_over = [&](const std::string& name) {
+    guide.act(settings,
+              [](Window& window) { input::toggle(as<frm_főablak_beállítások>(window).chk_grafikus_főablak); });
+    guide.picture(settings, name);
+    guide.act(settings, [](Window& window) { input::click(as<frm_főablak_beállítások>(window).OKButton); });
   };
   guide.act(main_window, [](Window& window) { input::click(as<frm_főablak>(window).mnu_fájl_főablak_beállításai); });
-  change_over();
+  change_over("main-settings-graphic");
   guide.picture(graphic, "graphic");
+  lay_out_menus(guide, platform, graphic, {"graphic-menu-file", "graphic-menu-rewards", "graphic-menu-help"});
   guide.act(graphic, [](Window& window) {
     input::mouse_move(as<frm_grafikus_főablak>(window).img_játék[7], {MouseButton::None, shift::none, 300, 300});
   });
@@ -89,7 +116,7 @@ void lay_out_graphic_window(Guide& guide) {
   });
   guide.picture(graphic, "graphic-longest-name-lit");
   guide.act(graphic, [](Window& window) { input::click(as<frm_grafikus_főablak>(window).mnu_fájl_főablak_beáll); });
-  change_over();
+  change_over("main-settings-text");
 }
 
 void lay_out_sounds(Guide& guide) {
@@ -115,6 +142,11 @@ void lay_out_music(Guide& guide) {
   guide.picture(music, "music-title-selected");
   guide.act(music, [](Window& window) { input::select(as<frm_zenebeáll>(window).filelist_zene, 3); });
   guide.picture(music, "music-selected-in-both-lists");
+  for (const auto& [name, reason] :
+       {std::pair{"music-without-device", no_device}, {"music-without-instruments", no_instruments}}) {
+    guide.act(music, [reason](Window& window) { as<frm_zenebeáll>(window).lbl_csend.Caption = reason; });
+    guide.picture(music, name);
+  }
   guide.act(music, [](Window& window) { input::click(as<frm_zenebeáll>(window).cmd_mégsem); });
 }
 
@@ -223,8 +255,9 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.for_help("graphic-lit", "graphic_main_window", 602);
   guide.intended.push_back({u"frm_grafikus_főablak", u"img_játék", u"háttér"}); // the light lies around the picture
   lay_out_main_window(guide, session);
+  lay_out_main_menus(guide, platform);
   lay_out_figures(guide, session);
-  lay_out_graphic_window(guide);
+  lay_out_graphic_window(guide, platform);
   lay_out_sounds(guide);
   lay_out_music(guide);
   lay_out_drum(guide);

@@ -4,6 +4,7 @@
 #include "core/exercise_table.h"
 #include "core/frm_főablak.h"
 #include "feedback/frm_gratuláció.h"
+#include "feedback/message_panels.h"
 #include "platform/input.h"
 #include "tests/players/player.h"
 #include "tests/players/strip.h"
@@ -16,6 +17,8 @@
 namespace cserko::tour {
 
 inline constexpr TextView congratulation = u"frm_gratuláció";
+inline constexpr TextView text_message = u"szövegüzenet";
+inline constexpr TextView picture_message = u"üzenet";
 
 /// Somebody in an exercise: what leads in, through and out is the same everywhere. The deeds of the stops keep a copy.
 template<class Exercise, class Player> class Visit {
@@ -67,6 +70,16 @@ template<class Exercise, class Player> class Visit {
     guide_.picture(congratulation, picture_ + "-congratulation");
     guide_.act(congratulation, [](Window& window) { input::click(static_cast<frm_gratuláció&>(window).cmd_ok); });
     look("-next-set");
+  }
+
+  // The panel with a text, or with a picture and its word.
+  void close_message(const std::string& state) const {
+    guide_.picture(text_message, picture_ + state);
+    guide_.act(text_message, [](Window& window) { input::click(static_cast<szövegüzenet&>(window).Command1); });
+  }
+  void close_picture_message(const std::string& state) const {
+    guide_.picture(picture_message, picture_ + state);
+    guide_.act(picture_message, [](Window& window) { input::click(static_cast<üzenet&>(window).Command1); });
   }
 
   void close() const {

@@ -1,6 +1,7 @@
 #include "core/frm_főablak.h"
 #include "feedback/frm_rajz.h"
 #include "feedback/frm_színezőmegnyitás.h"
+#include "feedback/message_panels.h"
 #include "platform/input.h"
 #include "tests/tour/tour_hand.h"
 #include "tests/tour/window_stops.h"
@@ -93,14 +94,56 @@ void colour_a_page(Guide& guide, Sitting& visit) {
   visit.look("colouring-page-coloured");
 }
 
+// A later visit: the drawing of the first one is there to be taken up, and a step may be taken again.
+void take_up_earlier(Sitting& visit) {
+  visit.look("drawing-earlier-offered");
+  visit.choose(frm_rajz::rectangle, 4);
+  visit.draw({{0.2, 0.2}, {0.7, 0.7}});
+  visit.act([](frm_rajz& board) { input::click(board.cmd_undo); });
+  visit.look("drawing-step-taken-back");
+  visit.act([](frm_rajz& board) { input::click(board.cmd_redo); });
+  visit.act([](frm_rajz& board) { input::click(board.cmd_earlier); });
+  visit.look("drawing-earlier-taken");
+}
+
+void make_own_page(Guide& guide, Sitting& visit) {
+  visit.act([](frm_rajz& board) {
+    input::click(board.Command1);
+    input::click(board.cmd_színező);
+  });
+  guide.act(pages, [](Window& window) {
+    auto& dialog = static_cast<frm_színezőmegnyitás&>(window);
+    input::select(dialog.File1, dialog.File1.count() - 1);
+  });
+  guide.picture(pages, "colouring-page-of-ones-own");
+  guide.act(pages, [](Window& window) { input::click(static_cast<frm_színezőmegnyitás&>(window).CancelButton); });
+}
+
+// The two minutes of a reward are over: the board goes with the message.
+void let_time_run_out(Guide& guide, Sitting& visit) {
+  visit.act([](frm_rajz& board) {
+    board.percek = 1;
+    board.Timer2.Tick();
+  });
+  guide.picture(u"frm_szövegüzenet", "drawing-time-is-over");
+  guide.act(u"frm_szövegüzenet", [](Window& window) { input::click(static_cast<frm_szövegüzenet&>(window).cmd_ok); });
+}
+
 void lay_out(Guide& guide, Session& /*session*/, WatchedPlatform& /*platform*/) {
   guide.for_help("drawing-filled", "drawing");
   Sitting visit(guide);
-  guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
+  const auto open = [&guide] {
+    guide.act(main_window, [](Window& window) { input::click(static_cast<frm_főablak&>(window).mnu_jutalom_rajz); });
+  };
+  open();
   draw_with_tools(visit);
   draw_by_keyboard(visit);
   colour_a_page(guide, visit);
   guide.act(drawing, [](Window& window) { input::close(window); });
+  open();
+  take_up_earlier(visit);
+  make_own_page(guide, visit);
+  let_time_run_out(guide, visit);
 }
 
 const Stops stops{drawing, lay_out};

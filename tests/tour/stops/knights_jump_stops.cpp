@@ -53,6 +53,30 @@ void hint(const KnightVisit& visit, const std::string& state) {
   visit.look(state);
 }
 
+// The pictures before the game, and their words to be read when it is won.
+void reading(const KnightVisit& visit) {
+  const auto show = [&visit](int pictures, const std::string& state) {
+    settle(visit, [pictures](frm_lóugrás_beáll& dialog) {
+      dialog.udképekszáma.set_value(pictures);
+      dialog.chk_képekbemutatása.set_value(1);
+      dialog.befejezés_után_olvasás.set_value(1);
+    });
+    visit.close_message(state + "-message");
+    for (int i = 0; i < pictures; ++i) visit.close_picture_message(state + "-" + std::to_string(i + 1));
+  };
+  show(2, "-presented-two");
+  visit.look("-presented");
+  show(1, "-presented-one");
+  visit.act([visit](frm_lóugrás&) { visit.session().window<frm_lóugrás_beáll>().chk_képekbemutatása.set_value(0); });
+  visit.solve_until([visit] { return visit.guide().at_front(text_message); });
+  visit.guide().picture_behind(
+      text_message, [visit]() -> Window& { return visit.exercise(); }, "knights-jump-won");
+  visit.close_message("-reading-message");
+  visit.close_picture_message("-reading");
+  visit.guide().act(congratulation, [](Window& window) { input::click(static_cast<frm_gratuláció&>(window).cmd_ok); });
+  visit.act([visit](frm_lóugrás&) { visit.session().window<frm_lóugrás_beáll>().befejezés_után_olvasás.set_value(0); });
+}
+
 void picture_panel(const KnightVisit& visit) {
   visit.act([](frm_lóugrás& window) { input::click(window.kép[0]); });
   visit.guide().picture(u"üzenet", "knights-jump-help");
@@ -122,6 +146,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
     dialog.optszabály.choose(0);
   });
   visit.look("-one-picture");
+  reading(visit);
   astray(visit);
   visit.solve_all();
   visit.close();

@@ -31,6 +31,22 @@ void tiles(const ViewerVisit& visit, const std::string& state) {
   visit.act([](frm_betűnézegető& window) { input::click(window.mnu_letter_tiles); });
 }
 
+// A tile is chosen by the keys alone.
+void tile_by_keyboard(const ViewerVisit& visit) {
+  visit.act([](frm_betűnézegető& window) {
+    input::click(window.mnu_letter_tiles);
+    press_key(Qt::Key_Tab);
+    input::focus(window.letter_tile[13]);
+  });
+  visit.look("-tile-focus");
+  visit.act([](frm_betűnézegető&) { press_key(Qt::Key_Space); });
+  visit.look("-tile-chosen");
+  visit.act([](frm_betűnézegető& window) {
+    touch_mouse();
+    input::click(window.mnu_letter_tiles);
+  });
+}
+
 // The small pictures: asked about, chosen wrong, chosen right.
 void reading_check(const ViewerVisit& visit) {
   settings(visit, "-check", [](frm_betűnézegető_beáll& dialog) { dialog.chk_képválasztás.set_value(1); });
@@ -62,6 +78,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   type(visit, u'q', "-no-word");
   type(visit, u'm', "-m");
   tiles(visit, "-tiles");
+  tile_by_keyboard(visit);
   settings(visit, "", [](frm_betűnézegető_beáll&) {});
   settings(visit, "-changed", [](frm_betűnézegető_beáll& dialog) {
     dialog.udbetszám.set_value(dialog.udbetszám.Max);

@@ -77,6 +77,38 @@ void memory_settings(const MemoryVisit& visit) {
                     [](Window& window) { input::click(static_cast<frm_képmem_beáll&>(window).cmd_ok); });
 }
 
+// Each picture before the game, then two pictures for a pair.
+void presentation(const MemoryVisit& visit) {
+  visit.act([](frm_képmemória& window) { input::click(window.mnu_fájl_beáll); });
+  visit.guide().act(u"frm_képmem_beáll", [](Window& window) {
+    auto& dialog = static_cast<frm_képmem_beáll&>(window);
+    dialog.chk_képek_bemutatása.set_value(1);
+    input::choose(dialog.párbeállítás[0]);
+  });
+  visit.guide().picture(u"frm_képmem_beáll", "picture-memory-settings-pictures");
+  visit.guide().act(u"frm_képmem_beáll",
+                    [](Window& window) { input::click(static_cast<frm_képmem_beáll&>(window).cmd_ok); });
+  visit.guide().picture_behind(
+      picture_message, [visit]() -> Window& { return visit.exercise(); }, "picture-memory-presentation-board");
+  visit.close_picture_message("-presentation");
+  visit.guide().repeat(
+      picture_message, [](Window& window) { input::click(static_cast<üzenet&>(window).Command1); },
+      [visit] { return visit.guide().at_front(u"frm_képmemória"); });
+  watch_two_cards(visit, "picture-memory-pair-of-pictures");
+  visit.act([visit](frm_képmemória& window) {
+    visit.session().window<frm_képmem_beáll>().chk_képek_bemutatása.set_value(0);
+    turn(window, closed_card(window, [](const PictureBox&) { return true; }));
+  });
+  visit.look("-one-picture");
+  visit.act([](frm_képmemória& window) {
+    Text open;
+    window.kép.each([&](const PictureBox& card) { open = window.felfordítva(card.Index) ? card.Tag : open; });
+    turn(window, closed_card(window, [&](const PictureBox& card) { return card.Tag == open; }));
+  });
+  visit.act([visit](frm_képmemória&) { visit.platform().redrawn = {}; });
+  visit.look("-pair-gone");
+}
+
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const MemoryVisit visit(guide, session, platform, u"frm_képmemória", "picture-memory");
   // A word lies on its card.
@@ -105,6 +137,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   visit.solve_until([visit] { return cards_left(visit.exercise()) < 10; });
   visit.look("-one-result");
   visit.act([visit](frm_képmemória&) { visit.platform().redrawn = {}; });
+  presentation(visit);
   visit.solve_all();
   visit.close();
 }

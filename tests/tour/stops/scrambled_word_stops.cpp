@@ -4,6 +4,7 @@
 #include "feedback/frm_gratuláció.h"
 #include "feedback/message_panels.h"
 #include "platform/input.h"
+#include "tests/tour/tour_hand.h"
 #include "tests/tour/window_stops.h"
 
 #include <algorithm>
@@ -80,6 +81,7 @@ class ScrambledWordStops {
     guide_.act(exercise, [*this](Window&) { session_.játékszámláló = 1; });
     solve("solved-again", "congratulation-with-rewards");
     settings();
+    other_helps();
     longest_and_shortest();
     missing_picture();
     nothing_fits();
@@ -138,6 +140,7 @@ class ScrambledWordStops {
     });
     guide_.picture(exercise, solved);
     guide_.picture(congratulation, praised);
+    if (praised == "congratulation-with-rewards") focus_on_praise();
     guide_.act(congratulation, [](Window& window) { input::click(static_cast<frm_gratuláció&>(window).cmd_ok); });
   }
 
@@ -146,6 +149,34 @@ class ScrambledWordStops {
     guide_.picture(settings_dialog, "scrambled-word-settings");
     guide_.act(settings_dialog,
                [](Window& window) { input::click(static_cast<frm_cserkó_beáll&>(window).CancelButton); });
+  }
+
+  // Without the help that is allowed at first, and with the one that is not.
+  void other_helps() const {
+    const auto change = [this](const std::string& name) {
+      guide_.act(exercise, [](Window& window) { input::click(game(window).mnu_fájl_beálítások); });
+      guide_.act(settings_dialog, [](Window& window) {
+        auto& dialog = static_cast<frm_cserkó_beáll&>(window);
+        for (CheckBox* help :
+             {&dialog.chk_ismételt_keverés_engedélyezése, &dialog.chk_szórendezés_engedélyezés, &dialog.Chk_betűfelfed})
+          input::toggle(*help);
+        input::click(dialog.OKButton);
+      });
+      guide_.picture(exercise, name);
+    };
+    change("scrambled-word-reshuffle-allowed");
+    guide_.act(exercise, [](Window& window) { input::click(game(window).cmd_újrakever); });
+    guide_.picture(exercise, "scrambled-word-reshuffled");
+    change("scrambled-word-usual-helps");
+  }
+
+  void focus_on_praise() const {
+    guide_.act(congratulation, [](Window& window) {
+      press_key(Qt::Key_Tab);
+      input::focus(static_cast<frm_gratuláció&>(window).cmd_ok);
+    });
+    guide_.picture(congratulation, "congratulation-focus");
+    guide_.act(congratulation, [](Window&) { touch_mouse(); });
   }
 
   void longest_and_shortest() const {

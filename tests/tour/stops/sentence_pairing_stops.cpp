@@ -1,8 +1,10 @@
+#include "core/finally.h"
 #include "exercises/sentences/frm_párosító.h"
 #include "tests/players/párosító_player.h"
 #include "tests/tour/visit.h"
 
 #include <cmath>
+#include <utility>
 
 namespace cserko::tour {
 
@@ -13,9 +15,9 @@ constexpr TextView settings_window = u"frm_párosító_beáll";
 using PairingVisit = Visit<frm_párosító, PárosítóPlayer>;
 
 // A wavy line from a picture, as a hand draws it, to a place of the window.
-void draw_wave(frm_párosító& window, int from, Point to) {
+std::vector<Point> wave(const frm_párosító& window, int from, Point to) {
   constexpr int points = 60;
-  PictureBox& picture = window.pic_feladvány[from];
+  const PictureBox& picture = window.pic_feladvány[from];
   const Point start{picture.Width / 2, picture.Height / 2};
   const Point end{to.x - picture.Left, to.y - picture.Top};
   std::vector<Point> way;
@@ -24,7 +26,44 @@ void draw_wave(frm_párosító& window, int from, Point to) {
     way.push_back({start.x + (end.x - start.x) * share,
                    start.y + (end.y - start.y) * share + std::sin(share * 12) * share * (1 - share) * 1200});
   }
-  TourHand(window).draw(picture, way);
+  return way;
+}
+
+void draw_wave(frm_párosító& window, int from, Point to) {
+  TourHand(window).draw(window.pic_feladvány[from], wave(window, from, to));
+}
+
+// Where a line is let go that leads nowhere.
+Point free_place(const frm_párosító& window, int from) {
+  const PictureBox& picture = window.pic_feladvány[from];
+  return {picture.Left + 2.2 * picture.Width, window.pic_feladvány[4].Top + picture.Height / 2};
+}
+
+// A line that is still held.
+void look_at_half_a_line(const PairingVisit& visit) {
+  visit.act([](frm_párosító& window) {
+    const std::vector<Point> way = wave(window, 0, free_place(window, 0));
+    PictureBox& picture = window.pic_feladvány[0];
+    input::mouse_down(picture, {MouseButton::Left, shift::none, way.front().x, way.front().y});
+    for (const Point& point : way) input::mouse_move(picture, {MouseButton::Left, shift::none, point.x, point.y});
+  });
+  visit.look("-half-drawn");
+  visit.act([](frm_párosító& window) {
+    const Point end = wave(window, 0, free_place(window, 0)).back();
+    input::mouse_up(window.pic_feladvány[0], {MouseButton::Left, shift::none, end.x, end.y});
+  });
+}
+
+// Four definitions are one too few.
+void nothing_fits(const PairingVisit& visit) {
+  visit.act([visit](frm_párosító& window) {
+    Records& records = visit.session().képek;
+    const std::int16_t last = std::exchange(records.képszám, std::int16_t{4});
+    const Finally all_again([&records, last] { records.képszám = last; });
+    input::click(window.mnu_fájl_újjáték);
+  });
+  visit.close_message("-nothing-fits");
+  visit.look("-empty");
 }
 
 Point middle_of(const PictureBox& box) { return {box.Left + box.Width / 2, box.Top + box.Height / 2}; }
@@ -55,16 +94,16 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   visit.act([](frm_párosító& window) { input::click(window.pic_feladvány[1]); });
   visit.look("-chosen");
   visit.act([](frm_párosító& window) { input::click(window.pic_feladvány[1]); });
+  visit.act([](frm_párosító& window) { input::click(window.lbl_feladvány[2]); });
+  visit.look("-definition-chosen");
+  visit.act([](frm_párosító& window) { input::click(window.lbl_feladvány[2]); });
   check_at_once(guide, visit, true, "sentence-pairing-settings-at-once");
   visit.act([](frm_párosító& window) {
     for (const int row : {1, 3}) draw_wave(window, row, middle_of(window.lbl_feladvány[definition_of(window, row)]));
   });
   visit.look("-two-lines");
-  // A line that is let go in the free strip, across the others: nothing of it stays on the ground.
-  visit.act([](frm_párosító& window) {
-    const PictureBox& picture = window.pic_feladvány[0];
-    draw_wave(window, 0, {picture.Left + 2.2 * picture.Width, middle_of(window.pic_feladvány[4]).y});
-  });
+  look_at_half_a_line(visit);
+  // It is let go in the free strip, across the others: nothing of it stays on the ground.
   visit.look("-wiped");
   check_at_once(guide, visit, false, "sentence-pairing-settings-late");
   visit.act([](frm_párosító& window) {
@@ -79,6 +118,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
     window.beáll();
   });
   visit.look("-longest");
+  nothing_fits(visit);
   check_at_once(guide, visit, true, "sentence-pairing-settings");
   visit.solve_all();
   visit.close();

@@ -1,6 +1,9 @@
+#include "core/finally.h"
 #include "exercises/syllables/frm_szótagkereső.h"
 #include "tests/players/szótagkereső_player.h"
 #include "tests/tour/visit.h"
+
+#include <utility>
 
 namespace cserko::tour {
 
@@ -10,6 +13,50 @@ using SearchVisit = Visit<frm_szótagkereső, SzótagkeresőPlayer>;
 
 void press_tray(frm_szótagkereső& window, MouseButton button) {
   input::mouse_down(window.szövegtároló, {button, shift::none, 5, 5});
+}
+
+bool any_below(frm_szótagkereső& window) {
+  bool found = false;
+  window.lbl_szótag.each([&](const Label& syllable) {
+    found = found || syllable.Top + syllable.Height * 0.6 > window.szövegtároló.Height;
+  });
+  return found;
+}
+
+// The arrow keys lead out of the tray, as far as the picture is high.
+void move_by_keyboard(const SearchVisit& visit) {
+  visit.act([](frm_szótagkereső&) { press_key(Qt::Key_Space); });
+  visit.look("-selected");
+  visit.act([visit](frm_szótagkereső& window) {
+    while (!any_below(window)) press_key(Qt::Key_Down);
+    visit.guide().intended.push_back({u"frm_szótagkereső", u"lbl_szótag", u"szövegtároló"});
+  });
+  visit.look("-below-the-tray");
+  visit.act([visit](frm_szótagkereső& window) {
+    visit.guide().intended.pop_back();
+    touch_mouse();
+    press_tray(window, MouseButton::Left); // they lie on the tray again
+  });
+}
+
+// Of one word alone it is known that it has not so many syllables.
+void nothing_fits(const SearchVisit& visit) {
+  visit.act([](frm_szótagkereső& window) { input::click(window.mnu_fájl_beáll); });
+  visit.guide().act(u"frm_szótagkereső_beáll", [visit](Window& window) {
+    auto& dialog = static_cast<frm_szótagkereső_beáll&>(window);
+    dialog.ud_minszótagszám.set_value(dialog.ud_minszótagszám.Max);
+    Records& records = visit.session().képek;
+    const std::int16_t last = std::exchange(records.képszám, std::int16_t{1});
+    const Finally all_again([&records, last] { records.képszám = last; });
+    input::click(dialog.OKButton);
+  });
+  visit.close_message("-nothing-fits");
+  visit.look("-empty");
+  visit.act([visit](frm_szótagkereső& window) {
+    UpDown& fewest = visit.session().window<frm_szótagkereső_beáll>().ud_minszótagszám;
+    fewest.set_value(fewest.Min);
+    window.beáll();
+  });
 }
 
 void settings(const SearchVisit& visit) {
@@ -51,6 +98,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   guide.for_help("syllable-search-settings", "syllable_search_settings");
   visit.open();
   visit.look_at_focus(1);
+  move_by_keyboard(visit);
   visit.err();
   visit.act([](frm_szótagkereső& window) { press_tray(window, MouseButton::Left); });
   visit.look("-shuffled");
@@ -63,6 +111,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   deal_worst(visit, "-widest-syllable", [](const KépAdat& record, int) {
     return static_cast<int>(record.szótagolt.find(u'-')); // the first one makes the size of all
   });
+  nothing_fits(visit);
   visit.solve_all();
   visit.act([](frm_szótagkereső& window) { input::click(window.mnu_fájl_kilép); });
 }

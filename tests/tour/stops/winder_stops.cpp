@@ -17,6 +17,12 @@ int pictures_shown(frmverem& game) {
   return shown;
 }
 
+int letters_shown(frmverem& game) {
+  int shown = 0;
+  game.betű.each([&](const Label& letter) { shown += letter.Visible ? 1 : 0; });
+  return shown;
+}
+
 // Names of the pictures, marked letters, and all the pictures that a game may begin with.
 void choose_helps(const WinderVisit& visit) {
   visit.act([](frmverem& game) { input::click(game.mnubeállításokdlg); });
@@ -66,6 +72,33 @@ void lose(const WinderVisit& visit) {
   visit.look("-new-game");
 }
 
+// A game of few short words, the first of them shown for a second, until too few letters are left.
+void win(const WinderVisit& visit) {
+  visit.act([](frmverem& game) { input::click(game.mnubeállításokdlg); });
+  visit.guide().act(u"frmverembeállítások", [](Window& window) {
+    auto& dialog = static_cast<frmverembeállítások&>(window);
+    dialog.udszóhossz.set_value(dialog.udszóhossz.Min);
+    dialog.udképekszámakezdéskor.set_value(dialog.udképekszámakezdéskor.Min);
+    dialog.udváridmegfejt.set_value(1);
+    input::click(dialog.OKButton);
+  });
+  visit.act([](frmverem& game) { input::click(game.újjáték); });
+  visit.look("-short-words");
+  // A solved word stands alone only while the window lets no event happen: it is looked at as it is drawn.
+  const auto seen = std::make_shared<bool>(false);
+  visit.act([visit, seen](frmverem&) {
+    visit.platform().redrawn = [visit, seen](Window& window) {
+      if (*seen || window.Name != u"frmverem" || letters_shown(static_cast<frmverem&>(window)) > frmverem::columns)
+        return;
+      *seen = true;
+      visit.guide().look_at(window, "winder-solved");
+    };
+  });
+  visit.solve_until([seen] { return *seen; });
+  visit.solve_all();
+  visit.act([visit](frmverem&) { visit.platform().redrawn = {}; });
+}
+
 // No entry of the menu opens the panel with the rules.
 void look_at_rules(const WinderVisit& visit) {
   visit.act([visit](frmverem&) { visit.platform().show_modal(visit.session().window<frmveremsúgó>()); });
@@ -88,6 +121,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   look_at_hint(visit);
   choose_helps(visit);
   lose(visit);
+  win(visit);
   look_at_rules(visit);
   visit.close();
 }

@@ -54,6 +54,22 @@ void lay_out_settings(Guide& guide, const FlashVisit& visit) {
   in_dialog([](frm_szóvillám_beáll& dialog) { input::click(dialog.CancelButton); });
 }
 
+void look_at_english(Guide& guide, const FlashVisit& visit) {
+  const auto speak = [&](int language, const std::string& name) {
+    visit.act([](frm_szóvillám& window) { input::click(window.mnu_fájl_beáll); });
+    guide.act(settings_window, [language](Window& window) {
+      input::choose(static_cast<frm_szóvillám_beáll&>(window).opt_nyelv[language]);
+    });
+    guide.picture(settings_window, name);
+    guide.act(settings_window,
+              [](Window& window) { input::click(static_cast<frm_szóvillám_beáll&>(window).OKButton); });
+  };
+  speak(1, "word-flash-settings-english");
+  visit.act(show_word);
+  visit.look("-english");
+  speak(0, "word-flash-settings-hungarian");
+}
+
 void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   const FlashVisit visit(guide, session, platform, u"frm_szóvillám", "word-flash");
   // The design lays the strip one pixel into the ring and its button.
@@ -82,6 +98,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   visit.act([visit](frm_szóvillám& window) { show_longest_word(visit, window); });
   visit.look("-longest-word");
   solve_one(visit, "-longest-result");
+  look_at_english(guide, visit);
   visit.act([visit](frm_szóvillám& window) {
     // Cancel has kept the longest time, since there is no file to take another from.
     auto& settings = visit.session().window<frm_szóvillám_beáll>();
