@@ -114,6 +114,7 @@ frm_betűválogatás::frm_betűválogatás(Session& session)
                                 {9960, 5280},
                                 {8520, 7200},
                                 {9960, 7200}});
+  eredményképnév.each([](Label& name) { name.WordWrap = false; });
   kép.bring_to_front(); // it flies over the places
   betű.Click = [this](int letter) { answer(letter); };
   mnu_beall_ujjatek.Click = [this] { következő_feladat(); };
@@ -240,6 +241,9 @@ void frm_betűválogatás::judge(int letter) {
   if (!answer_sound(session(), side_of(place) == letter)) return;
   if (settings().chk_animáció.ticked()) fly(place);
   szöveg_illesztés(eredményképnév[place]);
+  // The one step by which fitting overfills may be too much for a word of many syllables.
+  Label& name = eredményképnév[place];
+  if (platform().measure(name.Font, name.Caption).width > name.Width) name.Font.size -= 1;
   eredménykép[place].Visible = true;
   eredményképnév[place].Visible = true;
   platform().redraw(*this);
