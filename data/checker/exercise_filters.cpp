@@ -2,6 +2,7 @@
 
 #include "data/checker/knight_boards.h"
 #include "data/checker/word_chain.h"
+#include "exercises/boards/frm_hosszrövid.h"
 
 #include <QSet>
 #include <algorithm>
@@ -258,15 +259,14 @@ ExerciseFilter letter_mix_up(const Pack& pack) {
 }
 
 ExerciseFilter short_long(const Pack& pack) {
-  const QStringList pairs = QStringLiteral("i-í o-ó ö-ő u-ú ü-ű a-á e-é o-ö ó-ő u-ü ú-ű b-p b-d c-cs f-v g-gy h-d k-g "
-                                           "j-ly l-ly m-n ö-ü ő-ű r-v r-h sz-s sz-z zs-s zs-z t-d ty-gy ty-ny gy-ny")
-                                .split(' ');
   QStringList labels, letters;
-  for (const QString& pair : pairs)
+  for (const TextView entry : short_long_pairs) {
+    const QString pair = QString::fromUtf16(entry.data(), static_cast<qsizetype>(entry.size()));
     for (int side : {0, 1}) {
       letters << pair.section('-', side, side);
       labels << QString("%1 of %2").arg(letters.back(), pair);
     }
+  }
   return {"frm_hosszrövid",
           "Short-long",
           {each("letter", labels), range("letters at least", 4, 12, 4), range("letters at most", 4, 16, 10)},

@@ -10,13 +10,9 @@ namespace cserko {
 
 namespace {
 
-constexpr std::array<TextView, 33> pairs{
-    u"i-í", u"o-ó", u"ö-ő",  u"u-ú",  u"ü-ű",  u"a-á",  u"e-é",  u"o-ö",  u"ó-ő",   u"u-ü",   u"ú-ű",
-    u"b-p", u"b-d", u"c-cs", u"f-v",  u"g-gy", u"h-d",  u"k-g",  u"j-ly", u"l-ly",  u"m-n",   u"ö-ü",
-    u"ő-ű", u"r-v", u"r-h",  u"sz-s", u"sz-z", u"zs-s", u"zs-z", u"t-d",  u"ty-gy", u"ty-ny", u"gy-ny"};
 constexpr int first_accent_pair = 5;
 constexpr int first_consonant_pair = 11;
-constexpr int last_pair = static_cast<int>(pairs.size()) - 1;
+constexpr int last_pair = static_cast<int>(short_long_pairs.size()) - 1;
 
 constexpr double picture_size = 2580; // twips of the design, as the next two
 constexpr double key_step = 20;
@@ -40,7 +36,7 @@ dlg_hosszrövid::dlg_hosszrövid(Session& session)
       WordLengths(*this, {120, 120}, 4) {
   lst_betűpár.AccessibleName = u"Betűpárok";
   lst_betűpár.MultiSelect = true;
-  lst_betűpár.Items.assign(pairs.begin(), pairs.end());
+  lst_betűpár.Items.assign(short_long_pairs.begin(), short_long_pairs.end());
   lst_betűpár.Click = [this] { OKButton.Enabled = lst_betűpár.selected_count() > 0; };
   cmd_rövid_hosszú.Click = [this] { select(0, first_accent_pair - 1, true); };
   cmd_hangváltoó_ékezet.Click = [this] { select(first_accent_pair, first_consonant_pair - 1, true); };
@@ -53,7 +49,7 @@ dlg_hosszrövid::dlg_hosszrövid(Session& session)
 
 void dlg_hosszrövid::select(int first, int last, bool selected) {
   std::vector<bool> selection = lst_betűpár.selection();
-  selection.resize(pairs.size());
+  selection.resize(short_long_pairs.size());
   std::fill(selection.begin() + first, selection.begin() + last + 1, selected);
   lst_betűpár.set_selection(selection);
 }
@@ -147,11 +143,11 @@ int frm_hosszrövid::szó_választás() {
         platform(), list.count(),
         [&](int i) {
           if (!list.is_selected(i)) return false;
-          const auto letters = letters_of(pairs[static_cast<std::size_t>(i)]);
+          const auto letters = letters_of(short_long_pairs[static_cast<std::size_t>(i)]);
           return !barren.contains(letters[0]) || !barren.contains(letters[1]);
         },
         advice);
-    betűpár_ = letters_of(pairs[static_cast<std::size_t>(entry)]);
+    betűpár_ = letters_of(short_long_pairs[static_cast<std::size_t>(entry)]);
     kivett_betű_ = betűpár_[static_cast<std::size_t>(random_below(platform(), 2))];
     if (barren.contains(kivett_betű_)) continue;
     try {

@@ -12,6 +12,13 @@
 
 namespace cserko {
 
+/// The pairs of letters that are easily confused, in the order of the dialog: short and long vowels, other accents,
+/// consonants.
+inline constexpr std::array<TextView, 33> short_long_pairs{
+    u"i-í", u"o-ó", u"ö-ő",  u"u-ú",  u"ü-ű",  u"a-á",  u"e-é",  u"o-ö",  u"ó-ő",   u"u-ü",   u"ú-ű",
+    u"b-p", u"b-d", u"c-cs", u"f-v",  u"g-gy", u"h-d",  u"k-g",  u"j-ly", u"l-ly",  u"m-n",   u"ö-ü",
+    u"ő-ű", u"r-v", u"r-h",  u"sz-s", u"sz-z", u"zs-s", u"zs-z", u"t-d",  u"ty-gy", u"ty-ny", u"gy-ny"};
+
 /// Length and look of the words, and the pairs of letters.
 class dlg_hosszrövid : public SettingsDialog, public WordLengths {
  public:

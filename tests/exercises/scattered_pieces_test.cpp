@@ -50,6 +50,7 @@ class ScatteredPiecesTest : public ExerciseTest {
     std::vector<int> all;
     window.szótag.each([&](const Label& piece) {
       if (piece.Border) all.push_back(piece.Index);
+      EXPECT_EQ(piece.Selected, piece.Border) << "a screen reader is told of it";
     });
     return all;
   }
