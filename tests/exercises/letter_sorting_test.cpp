@@ -102,6 +102,19 @@ TEST_F(LetterSortingTest, SyllablesAreShownWhereTheyAreWanted) {
   EXPECT_EQ(utf8(window.eredményképnév[5].Caption), "sa-ru");
 }
 
+TEST_F(LetterSortingTest, ANameOfManySyllablesStaysInItsPlace) {
+  auto& window = deal();
+  Label& name = window.eredményképnév[0];
+  for (const TextView many : {u"sár-kány-re-pü-lő", u"sza-kács-mű-vé-szet", u"sze-mé-lyi-i-ga-zol-vány"}) {
+    name.Caption = many;
+    const double width = name.Width;
+    window.kép.Tag = u"0";
+    solve(window, 1);
+    EXPECT_LE(machine.measure(name.Font, name.Caption).width, width) << utf8(Text(many));
+  }
+  EXPECT_FALSE(name.WordWrap);
+}
+
 TEST_F(LetterSortingTest, EnglishWordsAreShownWhereTheyAreWanted) {
   put_settings(file_name, {u" 0 ", u" 3 ", u"False", u"True", u" 1 ", u" 14 "});
   start();
