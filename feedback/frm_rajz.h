@@ -27,8 +27,8 @@ class frm_rajz : public Window {
   Button cmd_undo{*this, u"cmd_undo", {120, 4110, 1080, 660}, u"Vissza"};
   Button cmd_redo{*this, u"cmd_redo", {1290, 4110, 1080, 660}, u"Újra"};
   CheckBox chk_vonalnem{*this, u"chk_vonalnem", {120, 4820, 2250, 960}, u"Fekete színezésének tiltása"};
-  CheckBox chk_foltfestés{*this, u"chk_foltfestés", {120, 5790, 2250, 530}, u"Foltfestés"};
-  Label lbl_idő{*this, u"lbl_idő", {120, 6330, 2250, 450}};
+  CheckBox chk_foltfestés{*this, u"chk_foltfestés", {120, 5785, 2250, 660}, u"Foltfestés"};
+  Label lbl_idő{*this, u"lbl_idő", {120, 6450, 2250, 440}};
   Label aktívszín{*this, u"aktívszín", {120, 6900, 2250, 1380}};
   ElementArray<Label> szín{*this, u"szín", {2490, 6900, 650, 675}};
   Button cmd_megnyit{*this, u"cmd_megnyit", {120, 120, 1260, 660}, u"Megnyit"};
