@@ -240,12 +240,12 @@ void frm_betűválogatás::judge(int letter) {
   const int place = number_in(kép.Tag).value_or(0);
   if (!answer_sound(session(), side_of(place) == letter)) return;
   if (settings().chk_animáció.ticked()) fly(place);
-  szöveg_illesztés(eredményképnév[place]);
-  // The one step by which fitting overfills may be too much for a word of many syllables.
   Label& name = eredményképnév[place];
+  szöveg_illesztés(name);
+  // The one step by which fitting overfills may be too much for a word of many syllables.
   if (platform().measure(name.Font, name.Caption).width > name.Width) name.Font.size -= 1;
   eredménykép[place].Visible = true;
-  eredményképnév[place].Visible = true;
+  name.Visible = true;
   platform().redraw(*this);
   következő_feladat();
 }
