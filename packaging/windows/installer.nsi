@@ -1,7 +1,7 @@
 ; The installer of the Windows program, for one user and without the rights of an administrator. The lists of files are
 ; made anew for each build; see build.sh for what is defined on the command line.
 Unicode true
-; The usual stub is a program of 32 bits, which not every 64-bit system can run.
+; Without this the installer is a program of 32 bits, which not every 64-bit system can run.
 Target amd64-unicode
 SetCompressor /SOLID lzma
 ManifestDPIAware true

@@ -174,12 +174,11 @@ TEST_F(BuiltPackTest, HasEveryHelpPageThatTheSuiteAsksFor) {
     return true;
   };
   const auto choose_all = [this](const std::function<Window&()>& window) {
-    for (std::size_t i = 0; i < window().elements().size(); ++i) {
+    const auto shown = [&]() -> Window& {
       machine.show(window());
-      Element& element = *window().elements()[i];
-      if (element.kind() == ElementKind::MenuItem && element.Click && element.Caption != u"Kilépés")
-        hand::click(element);
-    }
+      return window();
+    };
+    choose_in_menus(shown, [](const Element& entry) { return entry.Caption != u"Kilépés"; });
   };
   int exercises = 0;
   for (const Text& name : session().offered()) {

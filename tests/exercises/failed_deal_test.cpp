@@ -220,12 +220,11 @@ class EachFailedDealTest : public FullPackTest, public ::testing::WithParamInter
 
   /// Whatever in the menu leads to a new task: an entry of its own, or the settings and their OK.
   void ask_for_a_task() {
-    for (std::size_t i = 0; i < exercise().elements().size(); ++i) {
-      Element& entry = *exercise().elements()[i];
-      const bool leads_away = entry.Caption.find(u"Kilép") != Text::npos || entry.container() == nullptr ||
-                              entry.container()->Caption == u"&Súgó";
-      if (entry.kind() == ElementKind::MenuItem && entry.Click && !leads_away) hand::click(entry);
-    }
+    choose_in_menus([this]() -> Window& { return exercise(); },
+                    [](const Element& entry) {
+                      return entry.Caption.find(u"Kilép") == Text::npos && entry.container() != nullptr &&
+                             entry.container()->Caption != u"&Súgó";
+                    });
     // The letter viewer asks where a letter is typed.
     hand::type(exercise(), u"a");
   }

@@ -160,6 +160,15 @@ class KnightPlayTest : public KnightTest {
 
   /// "alma" from the corner: (2, 1), (4, 2), (3, 4), (4, 6).
   frm_lóugrás& alma(Wanted wanted = {}) { return board(1, {0, 0}, {7, 7, 1, 8}, std::move(wanted)); }
+  /// Collects so many letters, the first one wrong: with the last one the names are full, and the message comes.
+  void fill_names_wrongly(frm_lóugrás& window, int letters) {
+    click(window, wrong_way(window));
+    for (int letter = 2; letter < letters; ++letter) click(window, ways_on(window).front());
+    EXPECT_EQ(messages_shown, 0);
+    then_close_message();
+    click(window, ways_on(window).front());
+    EXPECT_EQ(messages_shown, 1) << letters << " letters fill the names";
+  }
   static std::string ground(const frm_lóugrás& window, Square square) {
     const Color color = window.field(square).BackColor;
     if (color == dark_green) return "dark green";

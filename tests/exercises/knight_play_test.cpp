@@ -245,12 +245,7 @@ TEST_F(KnightPlayTest, PicturesAreShownBeforeTheGame) {
 
 TEST_F(KnightPlayTest, FullNamesThatAreWrongBringTheMessageAndEachUndoingTakesALetter) {
   auto& window = alma();
-  click(window, wrong_way(window));
-  while (names(window).find('/') < 3) click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 0);
-  then_close_message();
-  click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 1);
+  fill_names_wrongly(window, 4);
   EXPECT_EQ(message, full_message);
   EXPECT_EQ(window.lépésszám(), 5);
   for (std::size_t left = 3; left > 0; --left) {
@@ -264,12 +259,7 @@ TEST_F(KnightPlayTest, OfSeveralFullNamesTheLastThatHasALetterLosesIt) {
   want({.pictures = 2, .neighbours = true});
   start_session();
   auto& window = game();
-  click(window, wrong_way(window));
-  for (int letter = 2; letter < 9; ++letter) click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 0);
-  then_close_message();
-  click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 1) << "nine letters fill both names";
+  fill_names_wrongly(window, 9);
   const std::size_t whole = window.képnév[0].Tag.size();
   for (std::size_t letters = 9; letters-- > 0;) {
     hand::click(window.Command1);
@@ -286,12 +276,7 @@ TEST_F(KnightPlayTest, NamesOfAGameBeforeCountForNothing) {
   machine.script_random({draws(1)});
   hand::click(window.mnu_fájl_új_játék);
   EXPECT_EQ(names(window), "/alma / / / ");
-  click(window, wrong_way(window));
-  for (int letter = 2; letter < 4; ++letter) click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 0);
-  then_close_message();
-  click(window, ways_on(window).front());
-  EXPECT_EQ(messages_shown, 1) << "four letters fill the one name";
+  fill_names_wrongly(window, 4);
 }
 
 TEST_F(KnightPlayTest, WithFullNamesAFurtherStepOnlyBringsTheMessageAgain) {

@@ -1,6 +1,7 @@
 // The model of a letter exercise: two languages, a coupled range, the row of letters, the hint, the panel.
 #include "exercises/template/frm_letter_template.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 
 #include <algorithm>
 
@@ -26,11 +27,7 @@ class LetterTemplateTest : public ExerciseTest {
     script(index, place, letters, in_alphabet);
     return open<frm_letter_template>();
   }
-  static std::string row(const frm_letter_template& window) {
-    std::string all;
-    window.betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
-  }
+  static std::string row(const frm_letter_template& window) { return letters_of(window.betű); }
 };
 
 TEST_F(LetterTemplateTest, OneLetterOfTheWordIsReplaced) {

@@ -3,6 +3,7 @@
 
 #include "exercises/letters/frm_betűnézegető.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 
 namespace cserko {
 
@@ -62,11 +63,7 @@ class LetterViewerFixture : public ExerciseTest {
   static void type(frm_betűnézegető& window, char16_t character, int shift = shift::none) {
     input::key_down(window, {.code = layout_key, .shift = shift, .character = character});
   }
-  static std::string word(const frm_betűnézegető& window) {
-    std::string all;
-    window.Label_betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
-  }
+  static std::string word(const frm_betűnézegető& window) { return letters_of(window.Label_betű); }
   /// A character for each letter of the word: R where it is red, "." where it is black.
   static std::string colors(const frm_betűnézegető& window) {
     std::string all;

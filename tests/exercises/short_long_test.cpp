@@ -2,6 +2,7 @@
 // the settings with their list of pairs.
 #include "exercises/boards/frm_hosszrövid.h"
 #include "tests/exercises/exercise_fixture.h"
+#include "tests/exercises/letter_row_checks.h"
 #include "tests/exercises/word_lengths.h"
 
 #include <set>
@@ -26,10 +27,16 @@ class ShortLongTest : public ExerciseTest {
         {drawing(pair_index(load<dlg_hosszrövid>(), pair), pairs), drawing(side, 2), record(0), drawing(nth, places)});
     return open<frm_hosszrövid>();
   }
-  static std::string row(const frm_hosszrövid& window) {
-    std::string all;
-    window.betű.each([&](const Label& letter) { all += (all.empty() ? "" : "|") + utf8(letter.Caption); });
-    return all;
+  static std::string row(const frm_hosszrövid& window) { return letters_of(window.betű); }
+  /// Words are shown in syllables. The first word is drawn first and the second one stays: its row without that letter.
+  std::string row_behind_the_first_word(TextView pair, int side) {
+    put_settings(u"hosszrövid.ini", {u" 10 ", u" 4 ", u" 1 "});
+    start();
+    machine.script_random(
+        {drawing(pair_index(load<dlg_hosszrövid>(), pair), pairs), drawing(side, 2), record(0), record(1), 0.0});
+    const std::string shown = row(open<frm_hosszrövid>());
+    EXPECT_EQ(machine.scripted_random_left(), 0U);
+    return shown;
   }
   static Label& gap(frm_hosszrövid& window) { return window.betű[window.rés_index()]; }
   static void expect_column(frm_hosszrövid& window, double top) {
@@ -197,24 +204,13 @@ TEST_F(ShortLongTest, TheOnlyWordOfALetterComesAgainOnceAnotherWasShown) {
 }
 
 TEST_F(ShortLongTest, AWordWhoseSyllablesCutTheLetterIsPassedOverWhereSyllablesAreShown) {
-  put_settings(u"hosszrövid.ini", {u" 10 ", u" 4 ", u" 1 "});
   put_only({{.név = u"malacsült", .szótagolt = u"ma-lac-sült"}, {.név = u"kocsi", .szótagolt = u"ko-csi"}});
-  start();
-  machine.script_random(
-      {drawing(pair_index(load<dlg_hosszrövid>(), u"c-cs"), pairs), drawing(1, 2), record(0), record(1), 0.0});
-  auto& window = open<frm_hosszrövid>();
-  EXPECT_EQ(row(window), "k|o|-|.|i");
-  EXPECT_EQ(machine.scripted_random_left(), 0U);
+  EXPECT_EQ(row_behind_the_first_word(u"c-cs", 1), "k|o|-|.|i");
 }
 
 TEST_F(ShortLongTest, AWordThatHoldsTheLetterInItsSyllablesAloneIsPassedOver) {
-  put_settings(u"hosszrövid.ini", {u" 10 ", u" 4 ", u" 1 "});
   put_only({{.név = u"asszony", .szótagolt = u"asz-szony"}, {.név = u"asztal", .szótagolt = u"asz-tal"}});
-  start();
-  machine.script_random(
-      {drawing(pair_index(load<dlg_hosszrövid>(), u"sz-s"), pairs), drawing(0, 2), record(0), record(1), 0.0});
-  auto& window = open<frm_hosszrövid>();
-  EXPECT_EQ(row(window), "a|.|-|t|a|l");
+  EXPECT_EQ(row_behind_the_first_word(u"sz-s", 0), "a|.|-|t|a|l");
 }
 
 // The slider.

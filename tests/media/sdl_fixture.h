@@ -81,6 +81,17 @@ class SdlMediaTest : public testing::Test {
     return listen();
   }
 
+  /// Plays a tune to its end; the left channel of all that was heard.
+  std::vector<std::int16_t> whole_tune(const std::u16string& tune) {
+    start_recording();
+    EXPECT_EQ(open_midi(tune), 0);
+    EXPECT_EQ(send(u"play midi "), 0);
+    EXPECT_EQ(midi_mode(), u"playing");
+    EXPECT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
+    EXPECT_EQ(media_->silence_reason(), u"");
+    return end_and_listen();
+  }
+
   /// The left channel of what has been heard so far; nothing as long as the device is not open.
   std::vector<std::int16_t> listen() const {
     QFile file(real("heard.raw"));

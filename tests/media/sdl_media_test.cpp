@@ -130,13 +130,7 @@ TEST_F(SdlWave, ARecordingBesideATunePlaysWithoutInstruments) {
   qputenv(sound_font_variable, real("nincs.sf2").toUtf8());
   write("dal.mid", one_tone_tune(2));
   write("dal.ogg", wave_file(sine(300, 1.5, 20'000)));
-  start_recording();
-  ASSERT_EQ(open_midi(u"dal.mid"), 0);
-  ASSERT_EQ(send(u"play midi "), 0);
-  EXPECT_EQ(midi_mode(), u"playing");
-  ASSERT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
-  EXPECT_EQ(media_->silence_reason(), u"");
-  const auto heard = end_and_listen();
+  const auto heard = whole_tune(u"dal.mid");
   EXPECT_GT(peak(heard), 3'000);
   EXPECT_LT(peak(heard), 16'000) << "a background";
 }
@@ -150,13 +144,7 @@ class SdlMusic : public SdlMediaTest {
 
 TEST_F(SdlMusic, ATuneIsPlayingAtOnceAndIsHeardToItsEnd) {
   write("dal.mid", one_tone_tune(2));
-  start_recording();
-  ASSERT_EQ(open_midi(u"dal.mid"), 0);
-  ASSERT_EQ(send(u"play midi "), 0);
-  EXPECT_EQ(midi_mode(), u"playing");
-  ASSERT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
-  EXPECT_EQ(media_->silence_reason(), u"");
-  const auto heard = end_and_listen();
+  const auto heard = whole_tune(u"dal.mid");
   EXPECT_GT(peak(heard), 300);
   EXPECT_LT(peak(heard), 16'000) << "a background";
 }
@@ -164,12 +152,7 @@ TEST_F(SdlMusic, ATuneIsPlayingAtOnceAndIsHeardToItsEnd) {
 TEST_F(SdlMusic, BesideABrokenRecordingTheTuneItselfIsHeard) {
   write("dal.mid", one_tone_tune(2));
   write("dal.ogg", Bytes(200, 'x'));
-  start_recording();
-  ASSERT_EQ(open_midi(u"dal.mid"), 0);
-  ASSERT_EQ(send(u"play midi "), 0);
-  ASSERT_TRUE(eventually([this] { return midi_mode() == u"stopped"; }));
-  EXPECT_EQ(media_->silence_reason(), u"");
-  EXPECT_GT(peak(end_and_listen()), 300);
+  EXPECT_GT(peak(whole_tune(u"dal.mid")), 300);
 }
 
 TEST_F(SdlMusic, PausedMusicIsSilentAndGoesOnWithoutAClick) {

@@ -130,6 +130,16 @@ Session& SuiteTest::start() {
   return *session_;
 }
 
+void SuiteTest::choose_in_menus(const std::function<Window&()>& window,
+                                const std::function<bool(const Element& entry)>& wanted) {
+  for (std::size_t i = 0;; ++i) {
+    const auto elements = window().elements();
+    if (i >= elements.size()) return;
+    Element& entry = *elements[i];
+    if (entry.kind() == ElementKind::MenuItem && entry.Click && wanted(entry)) hand::click(entry);
+  }
+}
+
 void SuiteTest::then_close_message() {
   then_in<szövegüzenet>([this](szövegüzenet& panel) {
     message = utf8(panel.szöveg.Caption);

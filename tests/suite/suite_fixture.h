@@ -107,6 +107,10 @@ class SuiteTest : public ::testing::Test {
     return window;
   }
 
+  /// The person chooses whatever is `wanted` in the menus of a window, which is asked for anew each time.
+  static void choose_in_menus(const std::function<Window&()>& window,
+                              const std::function<bool(const Element& entry)>& wanted);
+
   /// What the person does when the next window is shown modally. Several calls are for several windows in turn.
   void then(const std::function<void(Window& shown)>& deed) { machine.script.push_back(deed); }
   /// The same for a window of a known class.
