@@ -19,6 +19,8 @@ constexpr double largest_arrow = 4; // half its width
 constexpr double handle_rounding = 3;
 constexpr double focus_width = 2;
 
+constexpr double edge_of_mark = 14; // so many edges would fill the mark of a choice
+
 } // namespace
 
 ThemeStyle::ThemeStyle(double zoom) : QProxyStyle(QStyleFactory::create("Fusion")), zoom_(zoom) {}
@@ -93,7 +95,25 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     draw_arrow(*painter, option->rect, direction, option->palette.buttonText().color());
   } else {
     QProxyStyle::drawPrimitive(element, option, painter, widget);
+    if (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)
+      draw_edge_of_mark(*painter, *option, element == PE_IndicatorRadioButton);
   }
+}
+
+// The edge of the plain style is hardly darker than the paper, and a pixel wide however large the mark is.
+void ThemeStyle::draw_edge_of_mark(QPainter& painter, const QStyleOption& mark, bool round) {
+  const double width = std::max(1.0, mark.rect.width() / edge_of_mark);
+  const QRectF place = QRectF(mark.rect).adjusted(width / 2, width / 2, -width / 2, -width / 2);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(mark.state.testFlag(State_Enabled) ? faded_text : line, width));
+  if (round) {
+    painter.drawEllipse(place);
+  } else {
+    painter.drawRoundedRect(place, width, width);
+  }
+  painter.restore();
 }
 
 void ThemeStyle::draw_arrow(QPainter& painter, const QRectF& place, QPointF direction, const QColor& color) const {

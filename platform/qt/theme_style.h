@@ -23,6 +23,7 @@ class ThemeStyle : public QProxyStyle {
 
  private:
   void draw_scroll_bar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
+  static void draw_edge_of_mark(QPainter& painter, const QStyleOption& mark, bool round);
   void draw_arrow(QPainter& painter, const QRectF& place, QPointF direction, const QColor& color) const;
 
   double zoom_;

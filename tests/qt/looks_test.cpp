@@ -2,10 +2,12 @@
 #include "fixture.h"
 #include "platform/qt/theme.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QMenuBar>
+#include <algorithm>
 #include <cmath>
 
 namespace cserko::test {
@@ -50,6 +52,23 @@ TEST_F(Looks, TextStandsOutFromEveryBackground) {
   EXPECT_GE(contrast(theme::faded_text, theme::paper), 4.5);
   // The ring of the focus and the bar of progress are no text.
   EXPECT_GE(contrast(theme::accent, theme::paper), 3);
+}
+
+TEST_F(Looks, TheBoxesOfChoicesAreSeenOnThePaperBeforeTheyAreTicked) {
+  NotingWindow window(*machine);
+  const CheckBox check(window, u"chk", {0, 0, 1800, 900}, u"Hanggal");
+  const OptionButton option(window, u"opt", {0, 900, 1800, 900}, u"Egyik");
+  show(window);
+  const auto buttons = view(window).findChildren<QAbstractButton*>();
+  ASSERT_EQ(buttons.size(), 2);
+  for (QAbstractButton* button : buttons) {
+    const QImage image = button->grab().toImage();
+    // From the left edge into the box: its edge is darker than all that is beside it.
+    double strongest = 1;
+    for (int x = 0; x < image.height() / 4; ++x)
+      strongest = std::max(strongest, contrast(image.pixelColor(x, image.height() / 2), theme::paper));
+    EXPECT_GE(strongest, 3) << button->metaObject()->className();
+  }
 }
 
 TEST_F(Looks, EveryElementHasItsAccessibleName) {

@@ -249,7 +249,7 @@ void lay_out(Guide& guide, Session& session, WatchedPlatform& platform) {
   platform.attached = [&guide](Window& window) {
     if (dynamic_cast<SettingsDialog*>(&window) != nullptr) guide.must_see(window.Name);
   };
-  guide.for_help("main-slide-show", "main_window", 602);
+  guide.for_help("main-next-slide", "main_window", 602);
   guide.for_help("event-sounds-selected", "event_sounds", 642);
   guide.for_help("music-selected-in-both-lists", "music", 522);
   guide.for_help("graphic-lit", "graphic_main_window", 602);
