@@ -72,6 +72,9 @@ class QtPlatform : public QObject, public Platform {
     return fonts_.measure_wrapped(font, text, width);
   }
   PicturePtr load_picture(const Text& path) override;
+  /// Gives back the pictures that are kept so that they are shown at once the next time; there are never more than
+  /// `PictureCache::kDefaultLimit` bytes of them.
+  void forget_pictures() { pictures_.clear(); }
   std::optional<PixelImage> decode_picture(std::string_view bytes) const override;
   std::unique_ptr<Canvas> make_canvas(Size size) override;
   std::optional<PixelImage> clipboard_image() const override;
