@@ -1,8 +1,8 @@
 // openings_qt [EXERCISE...]: opens every exercise a hundred times in the real windows, touches it once each time, and
 // compares the memory that the program holds behind the last opening with that behind the tenth. What is kept of
 // pictures does not count: it grows with every new picture up to a limit of its own. The toolkit's fonts do, which it
-// keeps in all sizes for a while: they make up to a megabyte. Exit status 1 where an exercise leaves more behind than it
-// may. It takes a minute or more, so it is run by hand.
+// keeps in all sizes for a while: they make up to a megabyte. Exit status 1 where an exercise leaves more behind than
+// it may. It takes a minute or more, so it is run by hand.
 #include "bench/stage.h"
 #include "tests/soak/openings.h"
 #include "tests/tour/tour_hand.h"
