@@ -1,0 +1,34 @@
+// What ends a test that is caught in a loop of its own.
+#include "tests/loop_guard.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace cserko {
+namespace {
+
+TEST(LoopGuardDeathTest, EndsATestThatDoesNotEndAndNamesIt) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe"); // the guard is a thread
+  EXPECT_EXIT(
+      {
+        const LoopGuard guard(0.2);
+        const volatile bool goes_on = true;
+        while (goes_on) {
+        }
+      },
+      testing::ExitedWithCode(EXIT_FAILURE),
+      R"(LoopGuardDeathTest\.EndsATestThatDoesNotEndAndNamesIt .* [0-9]\.[0-9] seconds)");
+}
+
+TEST(LoopGuardDeathTest, LeavesATestAloneThatEnds) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(
+      {
+        { const LoopGuard guard; }
+        std::exit(0);
+      },
+      testing::ExitedWithCode(0), "");
+}
+
+} // namespace
+} // namespace cserko
