@@ -434,6 +434,18 @@ TEST_F(WinderWordsTest, SettingsHelpAndAboutPauseTheTimer) {
   EXPECT_EQ(help_page(), help_command("Tekergő  - A feladat.mht"));
 }
 
+TEST_F(WinderWordsTest, TheTimerGoesOnWhereTheHelpDoesNotOpen) {
+  auto& window = deal();
+  const int interval = window.Timer1.Interval;
+  machine.advance(60000);
+  machine.processes_fail = true;
+  hand::click(window.mnusúgósúgó);
+  expected_errors = 1;
+  EXPECT_EQ(window.Timer1.Interval, interval);
+  machine.advance(interval);
+  EXPECT_EQ(pictures(window), 11);
+}
+
 TEST_F(WinderWordsTest, F1OpensTheHelp) {
   auto& window = deal();
   hand::key(window, key::f1);

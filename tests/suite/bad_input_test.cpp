@@ -242,8 +242,10 @@ TEST_F(CraftedNamesTest, NamesInRecordsAreWordsAndNoPaths) {
   auto& window = open<frm_cserkó>();
   for (int i = 0; i < 50; ++i) window.beáll();
   for (int i = 0; i <= session().képek.képszám; ++i) {
-    EXPECT_TRUE(session().képek[i].wms.starts_with(u"c:\\cserko\\kepek\\")) << i;
-    EXPECT_EQ(session().képek[i].wmf.find(u".."), Text::npos) << i;
+    for (const Text& path : {session().képek[i].wms, session().képek[i].wmf}) {
+      EXPECT_TRUE(path.starts_with(u"c:\\cserko\\kepek\\")) << utf8(path);
+      EXPECT_EQ(path.find(u".."), Text::npos) << utf8(path);
+    }
   }
   expect_untouched();
 }

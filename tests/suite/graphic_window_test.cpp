@@ -363,6 +363,16 @@ TEST_F(GraphicWindowTest, ThePointerIsAnArrowAgainWhereTheExerciseDoesNotLoad) {
   EXPECT_TRUE(main.visible());
 }
 
+TEST_F(GraphicWindowTest, ThePointerIsAnArrowAgainWhereTheBackdropDoesNotLoad) {
+  auto& main = window();
+  machine.screen_fails = true;
+  hand::click(main.img_játék[6]);
+  machine.screen_fails = false;
+  expected_errors = 1;
+  EXPECT_EQ(main.Pointer, MousePointer::Arrow);
+  EXPECT_TRUE(main.visible());
+}
+
 TEST(GraphicWindowAlone, AnExerciseThatIsNotBuiltCannotBeLitOrStarted) {
   HeadlessPlatform machine;
   Session session(machine);
