@@ -61,6 +61,11 @@ std::optional<Text> frm_képmem_beáll::file_to_read() const {
   return SettingsDialog::file_to_read() ? std::optional(factory_file()) : std::nullopt;
 }
 
+void frm_képmem_beáll::after_read(bool /*from_file*/) {
+  optnyelv.repair(2);
+  párbeállítás.repair(1);
+}
+
 void frm_képmem_beáll::show_help_options() {
   const bool allowed = segítség_engedélyezése.ticked();
   session().window<frm_képmemória>().labszópárok[0].Visible = allowed;

@@ -56,6 +56,7 @@ class frm_képmem_beáll : public SettingsDialog {
 
  protected:
   void apply() override;
+  void after_read(bool from_file) override;
   /// Where either file exists, the factory's is opened, whatever the user has stored: that asymmetry is intended.
   std::optional<Text> file_to_read() const override;
 

@@ -316,6 +316,14 @@ TEST_F(MemorySettingsTest, HelpOpensItsPage) {
   EXPECT_EQ(help_page(), help_command("Képmemória - Beállítások.mht"));
 }
 
+TEST_F(MemorySettingsTest, AFileWithNoOptionOnLeavesTheDefaultsOn) {
+  put_app_file(factory, u" 9 \r\n 12 \r\n 2 \r\n 12 \r\nFalse\r\nFalse\r\nFalse\r\nFalse\r\n");
+  game();
+  EXPECT_EQ(dialog().szópárszám.value(), 9);
+  EXPECT_EQ(dialog().optnyelv.chosen(), 2);
+  EXPECT_EQ(dialog().párbeállítás.chosen(), 1);
+}
+
 // The guard.
 
 TEST_F(MemorySettingsTest, LoweringTheLettersLowersTheTopOfThePairs) {
