@@ -447,6 +447,14 @@ TEST_F(Keys, CommaPeriodAndMinusHaveCodesAndTypeTheirSigns) {
                       "window KeyDown 190", "window KeyUp 190"}));
 }
 
+TEST_F(Keys, TheKeysOfCommaPeriodAndMinusTypeAnotherSignWithShift) {
+  show();
+  input::focus(text);
+  for (const int held : {shift::none, shift::shift})
+    for (const int code : {key::comma, key::period, key::minus}) hand::key(window, code, held);
+  EXPECT_EQ(text.text(), u",.-?:_");
+}
+
 TEST_F(Keys, TheTabKeyGoesByTheIndexFirst) {
   Button help(window, u"cmd_súgó", {0, 2000, 900, 300}, u"Súgó");
   Button last(window, u"cmd", {0, 2400, 900, 300}, u"x");
