@@ -17,8 +17,7 @@ TEST(LoopGuardDeathTest, EndsATestThatDoesNotEndAndNamesIt) {
         while (std::clock() < end) {
         }
       },
-      testing::ExitedWithCode(EXIT_FAILURE),
-      R"(LoopGuardDeathTest\.EndsATestThatDoesNotEndAndNamesIt .* [0-9]\.[0-9] seconds)");
+      testing::ExitedWithCode(EXIT_FAILURE), "LoopGuardDeathTest.EndsATestThatDoesNotEndAndNamesIt has worked");
 }
 
 TEST(LoopGuardDeathTest, LeavesATestAloneThatEnds) {
