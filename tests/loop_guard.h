@@ -9,7 +9,7 @@ namespace cserko {
 
 /// Lives beside the tests and ends the program, as failed and with the name of the test, once a single test has used so
 /// much processor time: no other way leads out of a loop that asks nothing of the machine. Time in which the test gets
-/// no processor does not count.
+/// no processor does not count; on Windows it does, whose C clock is that of the wall.
 class LoopGuard {
  public:
   /// Far above what any test needs, also under the sanitizers, seconds.
