@@ -6,6 +6,7 @@
 #include "bench/stage.h"
 #include "tests/soak/openings.h"
 #include "tests/tour/tour_hand.h"
+#include "tests/x11/own_folders.h"
 
 #include <QPixmapCache>
 #include <QTimer>
@@ -81,10 +82,10 @@ bool open_again_and_again(const PlayedExercise& exercise) {
 } // namespace
 
 int main(int argc, char** argv) {
-  const QTemporaryDir folder;
-  qputenv("CSERKO_USER_DIR", folder.path().toUtf8());
   qputenv("SDL_AUDIODRIVER", "dummy");
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
+  const QTemporaryDir home;
+  move_in(home);
   return open_each(argc, argv, open_again_and_again) ? 0 : 1;
 }

@@ -7,14 +7,13 @@
 #include "feedback/frm_hangbeáll.h"
 #include "tests/players/played_exercise.h"
 #include "tests/x11/heard_platform.h"
+#include "tests/x11/own_folders.h"
 #include "tests/x11/x_hand.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
-#include <filesystem>
 #include <optional>
 #include <stdexcept>
 
@@ -149,16 +148,6 @@ class Person : public QObject {
   bool done_ = false;
   std::string trouble_;
 };
-
-// A data pack and a user folder of its own, so that settings may be written as one who looks after the program would.
-void move_in(const QTemporaryDir& home) {
-  const QString pack = QtFiles::find_pack();
-  expect(!pack.isEmpty(), "there is no data pack");
-  std::filesystem::copy(pack.toStdU16String(), home.filePath("pack").toStdU16String(),
-                        std::filesystem::copy_options::recursive);
-  qputenv("CSERKO_PACK_DIR", home.filePath("pack").toUtf8());
-  qputenv("CSERKO_USER_DIR", home.filePath("user").toUtf8());
-}
 
 int play(const PlayedExercise& game, PlayMode mode) {
   const QTemporaryDir home;
