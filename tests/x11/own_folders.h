@@ -10,8 +10,8 @@
 namespace cserko {
 
 /// Lets this process read a copy of the data pack and write to a user's folder, both of its own; an application object
-/// must be there. Throws std::runtime_error where there is no pack, std::filesystem::filesystem_error where it cannot be
-/// copied.
+/// must be there. Throws std::runtime_error where there is no pack, std::filesystem::filesystem_error where it cannot
+/// be copied.
 inline void move_in(const QTemporaryDir& home) {
   const QString pack = QtFiles::find_pack();
   if (pack.isEmpty()) throw std::runtime_error("there is no data pack");
