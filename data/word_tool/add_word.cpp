@@ -55,7 +55,7 @@ PictureFile read_picture(const QString& path) {
   if (ending == "svg") return picture_from_svg(bytes);
   if (ending == "png") return from_pixels(bytes, "png", ".png");
   if (ending == "jpg" || ending == "jpeg") return from_pixels(bytes, "jpeg", ".jpg");
-  throw PackError("a kép SVG, PNG, JPEG vagy WMF legyen.");
+  throw PackError(QStringLiteral("a kép %1 legyen.").arg(picture_kinds()));
 }
 
 // The first number that no file has as its base name, whatever its ending and its case: behind the pack's.

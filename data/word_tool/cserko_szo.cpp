@@ -1,6 +1,7 @@
 // cserko-szó: adds a user's own word to those of the program, or looks the words through.
 #include "data/pack/table.h"
 #include "data/word_tool/add_word.h"
+#include "data/word_tool/picture_file.h"
 #include "platform/qt/command_line.h"
 #include "platform/qt/files.h"
 
@@ -91,8 +92,8 @@ void describe(QCommandLineParser& parser) {
       QStringLiteral(
           "Saját szót ad a Cserkó szavaihoz, vagy átnézi a szavakat.\n\n"
           "Példa: %1 --name szamóca --english \"wild strawberry\" --syllables sza-mó-ca --definition \"Apró, piros "
-          "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.svg")
-          .arg(program_name()));
+          "erdei gyümölcs.\" --true \"Közel terem a földhöz.\" --false \"Négy kereke van.\" --picture szamóca.%2")
+          .arg(program_name(), picture_kinds().section(',', 0, 0).toLower()));
   parser.addOptions(
       {{"folder", QStringLiteral("Ide írja a szót; enélkül oda, ahonnan ezen a gépen a Cserkó olvas."),
         QStringLiteral("mappa")},
@@ -102,7 +103,7 @@ void describe(QCommandLineParser& parser) {
        {"definition", QStringLiteral("Meghatározás, amely nem nevezi meg a dolgot."), QStringLiteral("mondat")},
        {"true", QStringLiteral("Igaz állítás a képről."), QStringLiteral("mondat")},
        {"false", QStringLiteral("Hamis állítás a képről."), QStringLiteral("mondat")},
-       {"picture", QStringLiteral("A kép: SVG, PNG, JPEG vagy WMF."), QStringLiteral("fájl")},
+       {"picture", QStringLiteral("A kép: %1.").arg(picture_kinds()), QStringLiteral("fájl")},
        {"strict", QStringLiteral("Ha figyelmeztetés van, nem írja ki a szót.")},
        {"check", QStringLiteral("Új szó helyett átnézi a Cserkó szavait vagy a megadott mappát.")}});
   parser.addPositionalArgument("mappa", QStringLiteral("Csak a --check mellett: az átnézendő mappa."), "[mappa]");

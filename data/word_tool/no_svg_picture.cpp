@@ -4,8 +4,10 @@
 
 namespace cserko {
 
+QString picture_kinds() { return QStringLiteral("PNG, JPEG vagy WMF"); }
+
 PictureFile picture_from_svg(const QByteArray& /*svg*/) {
-  throw PackError("SVG kép ezen a rendszeren nem olvasható; a kép PNG, JPEG vagy WMF legyen.");
+  throw PackError(QStringLiteral("SVG kép ezen a rendszeren nem olvasható; a kép %1 legyen.").arg(picture_kinds()));
 }
 
 } // namespace cserko

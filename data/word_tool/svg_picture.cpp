@@ -6,6 +6,8 @@
 
 namespace cserko {
 
+QString picture_kinds() { return QStringLiteral("SVG, PNG, JPEG vagy WMF"); }
+
 // Solid fills become a metafile, as the pack's own pictures do; what a metafile cannot hold is drawn into pixels.
 PictureFile picture_from_svg(const QByteArray& svg) {
   try {
