@@ -96,7 +96,7 @@ debian_library() {
 qt_off="pkg_config vulkan sql network dbus xml concurrent zstd icu glib system_libb2 system_zlib system_png system_jpeg
   system_freetype system_harfbuzz system_pcre2 system_doubleconversion tabletevent tuiotouch direct2d1_1 etw cpp_winrt"
 # What neither the program nor the dialogs of Qt use, so that nobody waits for it or installs it.
-qt_off="$qt_off graphicsview graphicseffect mdiarea wizard calendarwidget lcdnumber dial toolbox columnview datawidgetmapper
+qt_off="$qt_off graphicsview graphicseffect mdiarea wizard lcdnumber dial toolbox columnview datawidgetmapper
   undocommand commandlinkbutton errormessage splashscreen keysequenceedit fontcombobox syntaxhighlighter textodfwriter
   textmarkdownwriter style_windowsvista gif ico"
 qt_features=$(for feature in $qt_off; do printf ' -DFEATURE_%s=OFF' "$feature"; done)

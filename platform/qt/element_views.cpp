@@ -66,7 +66,9 @@ class ElementWidget : public QWidget {
     send(event, to_mouse_button(event->button()),
          [](Element& to, const MouseEvent& mouse) { input::mouse_up(to, mouse); });
   }
-  // The pen of a graphics tablet is a mouse whose tip is the left button.
+#if QT_CONFIG(tabletevent)
+  // The pen of a graphics tablet is a mouse whose tip is the left button. A Qt without such events leaves it to the
+  // system to make the same mouse of it.
   void tabletEvent(QTabletEvent* event) override {
     const auto send_on = [&](MouseButton button, auto handler) { send(event, button, handler); };
     if (event->type() == QEvent::TabletPress) {
@@ -80,6 +82,7 @@ class ElementWidget : public QWidget {
               [](Element& to, const MouseEvent& mouse) { input::mouse_up(to, mouse); });
     }
   }
+#endif
   void focusInEvent(QFocusEvent*) override { update(); }
   void focusOutEvent(QFocusEvent*) override { update(); }
 

@@ -39,6 +39,7 @@ class Pen : public QtMachine {
     EXPECT_NEAR(heard[index].place.y, place.y, 1);
   }
 
+#if QT_CONFIG(tabletevent)
   void tablet(QEvent::Type type, QPointF place, Qt::MouseButton button, Qt::MouseButtons held) {
     QWidget& target = widget(box);
     QTabletEvent event(type, &device, place, target.mapToGlobal(place), 0.7, 0, 0, 0, 0, 0, Qt::NoModifier, button,
@@ -46,6 +47,7 @@ class Pen : public QtMachine {
     QCoreApplication::sendEvent(&target, &event);
     EXPECT_TRUE(event.isAccepted()) << "or a mouse event would be made of it once more";
   }
+#endif
 
   NotingWindow window{*machine};
   PictureBox box{window, u"pic", {300, 300, 3000, 3000}};
@@ -55,6 +57,7 @@ class Pen : public QtMachine {
       1,     1};
 };
 
+#if QT_CONFIG(tabletevent)
 TEST_F(Pen, ThePenOfATabletDraws) {
   show(window);
   tablet(QEvent::TabletPress, {10, 20}, Qt::LeftButton, Qt::LeftButton);
@@ -67,6 +70,7 @@ TEST_F(Pen, ThePenOfATabletDraws) {
   expect_heard(2, "up", MouseButton::Left, {450, 600});
   expect_heard(3, "move", MouseButton::None, {750, 750});
 }
+#endif
 
 TEST_F(Pen, AFingerDraws) {
   show(window);
