@@ -39,7 +39,7 @@ void Guide::repeat(TextView window, std::function<void(Window&)> deed, std::func
 }
 
 void Guide::picture(TextView window, const std::string& name, bool moving) {
-  const auto ready = moving ? std::function<bool(Window&)>() : [this](Window& seen) { return stands_still(seen); };
+  const auto ready = [this, moving](Window& seen) { return moving ? framed() : stands_still(seen); };
   act(
       window, [this, name](Window& seen) { look_at(seen, name); }, ready);
 }
@@ -60,11 +60,14 @@ bool Guide::at_front(TextView window) const {
   return front != nullptr && front->Name == window;
 }
 
+// Until then the window that was in front before may still be seen.
+bool Guide::framed() const { return at_front_since_.elapsed() >= framing_time; }
+
 bool Guide::stands_still(Window& window) {
   const QImage seen = take_picture(*platform_.view_of(window));
   const bool still = seen == last_seen_;
   last_seen_ = seen;
-  if (!still || at_front_since_.elapsed() < framing_time) return false;
+  if (!still || !framed()) return false;
   // A window that has just come up may stand on the screen a while before it is painted.
   return waiting_.elapsed() >= painting_time || !is_blank(seen, seen.rect());
 }

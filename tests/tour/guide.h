@@ -63,6 +63,7 @@ class Guide : public QObject {
   void schedule();
   void turn();
   void leave_stop();
+  bool framed() const;
   bool stands_still(Window& window);
   void judge(Window& window, const std::string& name, const QImage& image, QPoint client_corner);
   void give_up(const Stop& stop);
