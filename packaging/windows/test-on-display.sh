@@ -201,10 +201,21 @@ step_players() {
   done
 }
 
+# Tests that say nothing about this side: they look at the clock, at the fonts and sound fonts of a Debian system, at
+# programs that are not installed here, or into a recording that is still being written.
+not_here() {
+  case $1 in
+  metafile_tests) echo 'Traps.*:PictureRender.*:Text.*:ExtText.*:Charset.*' ;;
+  sdl_media_test)
+    echo 'SoundFont.TheSystems*:SoundFont.AFileThat*:SdlMusic.*:SdlMusicAndSound.*:*.StrikingAgain*:*.TheSignalIsHeard*'
+    ;;
+  esac
+}
+
 step_logic() {
   for program in $tests; do
     status=0
-    on_tested "$program.exe" --gtest_brief=1 >"$work/$program.log" 2>&1 || status=$?
+    on_tested "$program.exe" --gtest_brief=1 --gtest_filter="-$(not_here "$program")" >"$work/$program.log" 2>&1 || status=$?
     passed=$(tr -d '\r' <"$work/$program.log" | sed -n 's/^\[  PASSED  \] //p')
     if [ "$status" -eq 0 ] && [ -n "$passed" ]; then
       say "$program: passed $passed"

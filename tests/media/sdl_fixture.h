@@ -63,7 +63,12 @@ class SdlMediaTest : public testing::Test {
   /// Starts it on a device that writes what is heard into a file, faster than it would sound.
   SdlMedia& start_recording(const char* buffer_delay = "2") {
     qputenv("SDL_DISKAUDIOFILE", real("heard.raw").toUtf8());
+#ifdef Q_OS_WIN
+    // There the device knows one variable at a time, and would take the delay for the file: it takes its time.
+    (void)buffer_delay;
+#else
     qputenv("SDL_DISKAUDIODELAY", buffer_delay);
+#endif
     return start("disk");
   }
 
