@@ -26,7 +26,7 @@ locales=$work/locales
 [ -d "$locales/hu_HU.UTF-8" ] || { mkdir -p "$locales" && localedef -i hu_HU -f UTF-8 "$locales/hu_HU.UTF-8"; }
 wine() { LOCPATH=$locales LC_ALL=hu_HU.UTF-8 command wine "$@"; }
 
-say() { echo "$*" | tee -a "$report"; }
+say() { printf '%s\n' "$*" | tee -a "$report"; }
 # What goes wrong ends the step that cannot go on; the other one is for one of many.
 fault() { say "FAILED: $*"; }
 fail() {

@@ -71,10 +71,10 @@ int contrast(const Shades& shades) {
 
 } // namespace
 
-QImage take_picture(const QWidget& widget) {
-  const QRect frame = widget.frameGeometry();
-  QScreen* screen = widget.screen();
-  return screen->grabWindow(0, frame.x(), frame.y(), frame.width(), frame.height())
+QImage take_picture(const QWidget& widget) { return take_picture(*widget.screen(), widget.frameGeometry()); }
+
+QImage take_picture(QScreen& screen, QRect place) {
+  return screen.grabWindow(0, place.x(), place.y(), place.width(), place.height())
       .toImage()
       .convertToFormat(QImage::Format_RGB32);
 }

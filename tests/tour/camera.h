@@ -11,6 +11,9 @@ namespace cserko::tour {
 /// The window with its frame, cut out of the screen.
 QImage take_picture(const QWidget& widget);
 
+/// A place of the screen, as it is seen.
+QImage take_picture(QScreen& screen, QRect place);
+
 /// The client area of the same picture: the place of an element of the window in its pixels.
 class Photograph {
  public:

