@@ -27,8 +27,8 @@ run: build
 	@if [ -n "$$DISPLAY$$WAYLAND_DISPLAY" ]; then exec build/release/cserko; else \
 	  echo "There is no screen here: playing the tour instead."; exec $(MAKE) --no-print-directory tour; fi
 
-## All tests, the logic once more under the sanitizers. The last lines count them all. Twice as many at a time as there
-## are cores: those with real windows wait more than they work.
+## All tests, the logic once more under the sanitizers. The last lines count them all. Three times as many at a time as
+## there are cores: those with real windows wait more than they work.
 test:
 	@$(install) build run deb test
 	@packaging/lint.sh format
@@ -37,7 +37,7 @@ test:
 	@$(release)
 	@$(sanitizers)
 	@printf 'subdirs(release sanitizers)\n' > build/CTestTestfile.cmake
-	@$(in_c_locale) ctest --test-dir build --output-on-failure --no-tests=error -j$$(( $$(nproc) * 2 ))
+	@$(in_c_locale) ctest --test-dir build --output-on-failure --no-tests=error -j$$(( $$(nproc) * 3 ))
 
 ## Opens every window on screens of three sizes, checks them and leaves pictures in out/tour.
 tour:
