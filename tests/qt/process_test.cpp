@@ -23,7 +23,8 @@ class Programs : public QtMachine {
   QStringList started_with(const Text& rest) {
     machine->start_process(machine->application_folder() + u"qt_started.exe " + rest, ProcessWindow::Normal);
     const QString file = QString::fromStdU16String(rest);
-    EXPECT_TRUE(wait_for([&] { return QFile::exists(real_); }));
+    // There is a moment in which the file is there and nothing in it.
+    EXPECT_TRUE(wait_for([&] { return QFileInfo(real_).size() > 0; }));
     QFile written(real_);
     return written.open(QIODevice::ReadOnly) ? QString::fromUtf8(written.readAll()).split('\n') : QStringList();
   }
